@@ -1,0 +1,38 @@
+#include "draw/Imagery.h"
+
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/Window.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Image& lookImage(const String& name)
+{
+    return ImageManager::getSingleton().get(String(ImagesetName) + '/' + name);
+}
+
+Colour withAlpha(Colour colour, float alpha)
+{
+    colour.setAlpha(alpha);
+    return colour;
+}
+
+ColourRect withAlpha(ColourRect colours, float alpha)
+{
+    colours.setAlpha(alpha);
+    return colours;
+}
+
+ColourRect diagonalGradient(const Colour& primary, const Colour& secondary)
+{
+    return ColourRect(primary, secondary, secondary, primary);
+}
+
+bool hasVisibleArea(const Window& window)
+{
+    return window.getOuterRectClipper().getWidth() > 0.0f;
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

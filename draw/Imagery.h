@@ -1,0 +1,32 @@
+// Shared access to the "MoxieLook" imageset and the colour rules every look follows.
+#pragma once
+
+#include <CEGUI/ColourRect.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/String.h>
+
+namespace CEGUI
+{
+class Window;
+
+namespace MoxieLook
+{
+//! The imageset every look draws from.
+inline constexpr char ImagesetName[] = "MoxieLook";
+
+//! An image of the "MoxieLook" imageset, by its name inside the set.
+//! Throws CEGUI's UnknownObjectException when the imageset lacks it.
+const Image& lookImage(const String& name);
+
+//! The module's colour constants carry no alpha: every use takes the window's.
+Colour withAlpha(Colour colour, float alpha);
+ColourRect withAlpha(ColourRect colours, float alpha);
+
+//! Primary in the top-left and bottom-right corners, secondary in the other two.
+ColourRect diagonalGradient(const Colour& primary, const Colour& secondary);
+
+//! A window whose clipped width is 0 draws nothing at all.
+bool hasVisibleArea(const Window& window);
+
+} // namespace MoxieLook
+} // namespace CEGUI

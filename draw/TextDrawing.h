@@ -1,0 +1,46 @@
+// Text laid out in a rectangle: aligned, justified or word-wrapped, placed vertically.
+#pragma once
+
+#include <CEGUI/ColourRect.h>
+#include <CEGUI/Rect.h>
+
+namespace CEGUI
+{
+class GeometryBuffer;
+class RenderedString;
+class Window;
+
+namespace MoxieLook
+{
+enum class HorzTextFormat
+{
+    Left,
+    Right,
+    Centred,
+    Justified,
+    WordWrapLeft,
+    WordWrapRight,
+    WordWrapCentred,
+    WordWrapJustified
+};
+
+enum class VertTextFormat
+{
+    Top,
+    Bottom,
+    Centred
+};
+
+//! Draws `text` (already parsed, with its fonts) into `area`. The colours modulate those
+//! of the text itself, which are white unless the text carries its own markup.
+//! Returns the height the formatted text takes.
+float drawText(const Window& window, GeometryBuffer& buffer, const RenderedString& text,
+               const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
+               const ColourRect& colours, const Rectf* clip);
+
+//! The extent `text` would take in an area of `width` pixels.
+Sizef measureText(const Window& window, const RenderedString& text, float width,
+                  HorzTextFormat horz);
+
+} // namespace MoxieLook
+} // namespace CEGUI

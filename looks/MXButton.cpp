@@ -1,0 +1,131 @@
+#include "looks/MXButton.h"
+
+#include "draw/Imagery.h"
+#include "draw/TextDrawing.h"
+
+#include <CEGUI/Font.h>
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour MXButton::NormalPrimaryColour(0x00AFAFAF);
+const Colour MXButton::NormalSecondaryColour(0x00FFFFFF);
+const Colour MXButton::HoverPrimaryColour(0x00CFD9CF);
+const Colour MXButton::HoverSecondaryColour(0x00F2FFF2);
+const Colour MXButton::PushedPrimaryColour(0x00AFAFAF);
+const Colour MXButton::PushedSecondaryColour(0x00FFFFFF);
+const Colour MXButton::DisabledPrimaryColour(0x00999999);
+const Colour MXButton::DisabledSecondaryColour(0x00999999);
+const Colour MXButton::EnabledTextLabelColour(0x00000000);
+const Colour MXButton::DisabledTextLabelColour(0x00888888);
+
+MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, name)
+{
+    storeFrameSizes();
+    d_normalFrame.setImages({NormalTopLeftImageName, NormalTopRightImageName,
+                             NormalBottomLeftImageName, NormalBottomRightImageName,
+                             NormalLeftImageName, NormalTopImageName, NormalRightImageName,
+                             NormalBottomImageName});
+    d_hoverFrame.setImages({HoverTopLeftImageName, HoverTopRightImageName, HoverBottomLeftImageName,
+                            HoverBottomRightImageName, HoverLeftImageName, HoverTopImageName,
+                            HoverRightImageName, HoverBottomImageName});
+    d_pushedFrame.setImages({PushedTopLeftImageName, PushedTopRightImageName,
+                             PushedBottomLeftImageName, PushedBottomRightImageName,
+                             PushedLeftImageName, PushedTopImageName, PushedRightImageName,
+                             PushedBottomImageName});
+    d_background = &lookImage(BackgroundImageName);
+    setMouseCursor(&lookImage(MouseCursorImageName));
+
+    setNormalTextColour(EnabledTextLabelColour);
+    setHoverTextColour(EnabledTextLabelColour);
+    setPushedTextColour(EnabledTextLabelColour);
+    setDisabledTextColour(DisabledTextLabelColour);
+}
+
+void MXButton::storeFrameSizes()
+{
+    d_leftWidth = lookImage(NormalLeftImageName).getRenderedSize().d_width;
+    d_rightWidth = lookImage(NormalRightImageName).getRenderedSize().d_width;
+    d_topHeight = lookImage(NormalTopImageName).getRenderedSize().d_height;
+    d_bottomHeight = lookImage(NormalBottomImageName).getRenderedSize().d_height;
+}
+
+void MXButton::drawNormal()
+{
+    drawState(NormalPrimaryColour, NormalSecondaryColour, d_normalFrame, isNormalImageEnabled(),
+              d_normalImage, getNormalTextColour());
+}
+
+void MXButton::drawHover()
+{
+    drawState(HoverPrimaryColour, HoverSecondaryColour, d_hoverFrame, isHoverImageEnabled(),
+              d_hoverImage, getHoverTextColour());
+}
+
+void MXButton::drawPushed()
+{
+    drawState(PushedPrimaryColour, PushedSecondaryColour, d_pushedFrame, isPushedImageEnabled(),
+              d_pushedImage, getPushedTextColour());
+}
+
+void MXButton::drawDisabled()
+{
+    drawState(DisabledPrimaryColour, DisabledSecondaryColour, d_normalFrame,
+              isDisabledImageEnabled(), d_disabledImage, getDisabledTextColour());
+}
+
+void MXButton::drawState(const Colour& primary, const Colour& secondary,
+                         const NinePieceFrame& frame, bool useCustomImage,
+                         FormattedImage& customImage, const Colour& textColour)
+{
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Rectf area(Vector2f(0.0f, 0.0f), getPixelSize());
+    const float alpha = getEffectiveAlpha();
+
+    if (isStandardImageryEnabled())
+    {
+        const Rectf fillArea(area.left() + d_leftWidth, area.top() + d_topHeight,
+                             area.right() - d_rightWidth, area.bottom() - d_bottomHeight);
+        d_background->render(buffer, fillArea, nullptr,
+                             withAlpha(diagonalGradient(primary, secondary), alpha));
+        frame.draw(buffer, area.d_min, nullptr);
+    }
+
+    if (useCustomImage)
+    {
+        customImage.setColours(withAlpha(customImage.getColours(), alpha));
+        customImage.draw(buffer, area.d_min, nullptr);
+    }
+
+    const Font* font = getFont();
+    if (!font)
+        return;
+    const float yOffset = std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f);
+    const float xOffset = std::trunc(area.getWidth() * getTextXOffset() + 0.5f);
+    const Rectf textArea(area.left() + xOffset, area.top() + yOffset, area.right(), area.bottom());
+    drawText(*this, buffer, getRenderedString(), textArea, HorzTextFormat::Centred,
+             VertTextFormat::Top, ColourRect(withAlpha(textColour, alpha)), nullptr);
+}
+
+void MXButton::onSized(ElementEventArgs& e)
+{
+    PushButtonEx::onSized(e);
+    const Sizef size = getPixelSize();
+    d_normalFrame.setSize(size);
+    d_hoverFrame.setSize(size);
+    d_pushedFrame.setSize(size);
+    ++e.handled;
+}
+
+void MXButton::onAlphaChanged(WindowEventArgs& e)
+{
+    PushButtonEx::onAlphaChanged(e);
+    const float alpha = getEffectiveAlpha();
+    for (NinePieceFrame* frame : {&d_normalFrame, &d_hoverFrame, &d_pushedFrame})
+        frame->setColours(withAlpha(frame->getColours(), alpha));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,95 @@
+// "MoxieLook/Button": a framed push button with a diagonal gradient fill.
+// Images: the "ButtonArrow..." frame (normal) and "ButtonArrowFocus..." frame (hover and
+// pushed), the "ButtonArrowFill" fill, the "MouseArrow" cursor.
+#pragma once
+
+#include "draw/NinePieceFrame.h"
+#include "looks/LookFactory.h"
+#include "widgets/PushButtonEx.h"
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+class MXButton : public PushButtonEx
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/Button";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
+    static constexpr char BackgroundImageName[] = "ButtonArrowFill";
+
+    static constexpr char NormalTopLeftImageName[] = "ButtonArrowTopLeft";
+    static constexpr char NormalTopImageName[] = "ButtonArrowTop";
+    static constexpr char NormalTopRightImageName[] = "ButtonArrowTopRight";
+    static constexpr char NormalLeftImageName[] = "ButtonArrowLeft";
+    static constexpr char NormalRightImageName[] = "ButtonArrowRight";
+    static constexpr char NormalBottomLeftImageName[] = "ButtonArrowBottomLeft";
+    static constexpr char NormalBottomImageName[] = "ButtonArrowBottom";
+    static constexpr char NormalBottomRightImageName[] = "ButtonArrowBottomRight";
+
+    static constexpr char HoverTopLeftImageName[] = "ButtonArrowFocusTopLeft";
+    static constexpr char HoverTopImageName[] = "ButtonArrowFocusTop";
+    static constexpr char HoverTopRightImageName[] = "ButtonArrowFocusTopRight";
+    static constexpr char HoverLeftImageName[] = "ButtonArrowFocusLeft";
+    static constexpr char HoverRightImageName[] = "ButtonArrowFocusRight";
+    static constexpr char HoverBottomLeftImageName[] = "ButtonArrowFocusBottomLeft";
+    static constexpr char HoverBottomImageName[] = "ButtonArrowFocusBottom";
+    static constexpr char HoverBottomRightImageName[] = "ButtonArrowFocusBottomRight";
+
+    // A pressed button keeps the hover frame around the normal fill.
+    static constexpr char PushedTopLeftImageName[] = "ButtonArrowFocusTopLeft";
+    static constexpr char PushedTopImageName[] = "ButtonArrowFocusTop";
+    static constexpr char PushedTopRightImageName[] = "ButtonArrowFocusTopRight";
+    static constexpr char PushedLeftImageName[] = "ButtonArrowFocusLeft";
+    static constexpr char PushedRightImageName[] = "ButtonArrowFocusRight";
+    static constexpr char PushedBottomLeftImageName[] = "ButtonArrowFocusBottomLeft";
+    static constexpr char PushedBottomImageName[] = "ButtonArrowFocusBottom";
+    static constexpr char PushedBottomRightImageName[] = "ButtonArrowFocusBottomRight";
+
+    static const Colour NormalPrimaryColour;
+    static const Colour NormalSecondaryColour;
+    static const Colour HoverPrimaryColour;
+    static const Colour HoverSecondaryColour;
+    static const Colour PushedPrimaryColour;
+    static const Colour PushedSecondaryColour;
+    static const Colour DisabledPrimaryColour;
+    static const Colour DisabledSecondaryColour;
+    static const Colour EnabledTextLabelColour;
+    static const Colour DisabledTextLabelColour;
+
+    MXButton(const String& type, const String& name);
+
+    const NinePieceFrame& getNormalFrame() const { return d_normalFrame; }
+    const NinePieceFrame& getHoverFrame() const { return d_hoverFrame; }
+    const NinePieceFrame& getPushedFrame() const { return d_pushedFrame; }
+
+protected:
+    void drawNormal() override;
+    void drawHover() override;
+    void drawPushed() override;
+    void drawDisabled() override;
+
+    void onSized(ElementEventArgs& e) override;
+    void onAlphaChanged(WindowEventArgs& e) override;
+
+    void storeFrameSizes();
+
+    //! One state's picture: fill, frame, custom image, text.
+    void drawState(const Colour& primary, const Colour& secondary, const NinePieceFrame& frame,
+                   bool useCustomImage, FormattedImage& customImage, const Colour& textColour);
+
+    NinePieceFrame d_normalFrame;
+    NinePieceFrame d_hoverFrame;
+    NinePieceFrame d_pushedFrame;
+    float d_leftWidth = 0.0f;
+    float d_topHeight = 0.0f;
+    float d_rightWidth = 0.0f;
+    float d_bottomHeight = 0.0f;
+    const Image* d_background = nullptr;
+};
+
+using MXButtonFactory = LookFactory<MXButton>;
+
+} // namespace MoxieLook
+} // namespace CEGUI
