@@ -87,8 +87,7 @@ void PushButtonEx::setStandardImageryEnabled(bool enabled)
 void PushButtonEx::setCustomImage(FormattedImage& slot, bool& flag, const FormattedImage* image)
 {
     flag = image != nullptr;
-    if (image)
-        slot = *image;
+    slot = image ? *image : FormattedImage();
     if (d_autoSizeCustomImagery)
         slot.setSize(getPixelSize());
     invalidate();

@@ -1,0 +1,147 @@
+#include "support/DrawnQuads.h"
+
+#include <CEGUI/Image.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+#include <algorithm>
+#include <map>
+#include <ostream>
+
+namespace moxietest
+{
+namespace
+{
+const char* const Prefix = "MoxieLook/";
+
+struct UvArea
+{
+    CEGUI::Rectf uv;
+    std::string name;
+};
+
+CEGUI::Rectf bounds(const std::vector<CEGUI::Vertex>& vertices, bool texture)
+{
+    CEGUI::Rectf r(1e9f, 1e9f, -1e9f, -1e9f);
+    for (const CEGUI::Vertex& v : vertices)
+    {
+        const float x = texture ? v.tex_coords.d_x : v.position.d_x;
+        const float y = texture ? v.tex_coords.d_y : v.position.d_y;
+        r.d_min.d_x = std::min(r.d_min.d_x, x);
+        r.d_min.d_y = std::min(r.d_min.d_y, y);
+        r.d_max.d_x = std::max(r.d_max.d_x, x);
+        r.d_max.d_y = std::max(r.d_max.d_y, y);
+    }
+    return r;
+}
+
+CEGUI::ColourRect cornerColours(const std::vector<CEGUI::Vertex>& vertices,
+                                const CEGUI::Rectf& rect)
+{
+    CEGUI::ColourRect colours;
+    for (const CEGUI::Vertex& v : vertices)
+    {
+        const bool left = v.position.d_x == rect.left();
+        const bool top = v.position.d_y == rect.top();
+        (left ? (top ? colours.d_top_left : colours.d_bottom_left)
+              : (top ? colours.d_top_right : colours.d_bottom_right)) = v.colour_val;
+    }
+    return colours;
+}
+
+// Learns each image's texture area by letting the image draw itself once.
+const std::vector<UvArea>& atlasAreas(const CEGUI::Texture*& atlas)
+{
+    static std::vector<UvArea> areas;
+    static const CEGUI::Texture* atlasTexture = nullptr;
+    if (areas.empty())
+    {
+        CEGUI::ImageManager::ImageIterator it = CEGUI::ImageManager::getSingleton().getIterator();
+        for (; !it.isAtEnd(); ++it)
+        {
+            const CEGUI::String& name = it.getCurrentKey();
+            if (name.find(Prefix) != 0)
+                continue;
+            RecordingGeometryBuffer probe;
+            it.getCurrentValue().first->render(probe, CEGUI::Rectf(0, 0, 8, 8), nullptr,
+                                               CEGUI::ColourRect());
+            atlasTexture = probe.batches().front().texture;
+            areas.push_back({bounds(probe.batches().front().vertices, true),
+                             name.substr(std::char_traits<char>::length(Prefix)).c_str()});
+        }
+    }
+    atlas = atlasTexture;
+    return areas;
+}
+
+std::string imageFor(const CEGUI::Rectf& uv, const std::vector<UvArea>& areas)
+{
+    const float eps = 1e-5f;
+    for (const UvArea& area : areas)
+        if (uv.left() >= area.uv.left() - eps && uv.right() <= area.uv.right() + eps &&
+            uv.top() >= area.uv.top() - eps && uv.bottom() <= area.uv.bottom() + eps)
+            return area.name;
+    return "?";
+}
+} // namespace
+
+std::vector<DrawnQuad> decode(const RecordingGeometryBuffer& buffer)
+{
+    const CEGUI::Texture* atlas = nullptr;
+    const std::vector<UvArea>& areas = atlasAreas(atlas);
+
+    std::vector<DrawnQuad> quads;
+    bool inText = false;
+    for (const RecordingGeometryBuffer::Batch& batch : buffer.batches())
+    {
+        const CEGUI::Rectf rect = bounds(batch.vertices, false);
+        if (batch.texture == atlas)
+        {
+            quads.push_back({imageFor(bounds(batch.vertices, true), areas), rect,
+                             cornerColours(batch.vertices, rect)});
+            inText = false;
+        }
+        else if (inText)
+        {
+            CEGUI::Rectf& run = quads.back().rect;
+            run.d_min.d_x = std::min(run.d_min.d_x, rect.d_min.d_x);
+            run.d_min.d_y = std::min(run.d_min.d_y, rect.d_min.d_y);
+            run.d_max.d_x = std::max(run.d_max.d_x, rect.d_max.d_x);
+            run.d_max.d_y = std::max(run.d_max.d_y, rect.d_max.d_y);
+        }
+        else
+        {
+            quads.push_back({"text", rect, cornerColours(batch.vertices, rect)});
+            inText = true;
+        }
+    }
+    return quads;
+}
+
+std::vector<DrawnQuad> drawnBy(CEGUI::Window& window)
+{
+    CEGUI::System::getSingleton().renderAllGUIContexts();
+    return decode(static_cast<const RecordingGeometryBuffer&>(window.getGeometryBuffer()));
+}
+
+std::vector<std::string> imageNames(const std::vector<DrawnQuad>& quads)
+{
+    std::vector<std::string> names;
+    for (const DrawnQuad& quad : quads)
+        names.push_back(quad.image);
+    return names;
+}
+
+CEGUI::argb_t argb(const CEGUI::Colour& colour)
+{
+    return colour.getARGB();
+}
+
+std::ostream& operator<<(std::ostream& out, const DrawnQuad& quad)
+{
+    return out << quad.image << " (" << quad.rect.left() << ", " << quad.rect.top() << ", "
+               << quad.rect.right() << ", " << quad.rect.bottom() << ") tl=" << std::hex
+               << argb(quad.colours.d_top_left) << std::dec;
+}
+
+} // namespace moxietest

@@ -1,0 +1,108 @@
+#include "support/Gui.h"
+
+#include "support/RecordingRenderer.h"
+
+#include <CEGUI/DefaultLogger.h>
+#include <CEGUI/DefaultResourceProvider.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/SchemeManager.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+#include <cstdlib>
+
+namespace moxietest
+{
+namespace
+{
+RecordingRenderer* s_renderer = nullptr;
+CEGUI::Window* s_sheet = nullptr;
+} // namespace
+
+std::string dataFile(const std::string& name)
+{
+    return std::string(MOXIE_DATA_DIR) + "/" + name;
+}
+
+void startGui()
+{
+    // The module is found the way a host's DynamicModule finds it.
+    setenv("CEGUI_MODULE_DIR", MOXIE_MODULE_DIR, 0);
+
+    auto* logger = new CEGUI::DefaultLogger();
+    logger->setLogFilename("CEGUI-tests.log", false);
+    logger->setLoggingLevel(CEGUI::Informative);
+
+    // The Null renderer starts at 0 x 0; the pointer's constraint area is taken from that
+    // when the system is created, so the size must be right before then.
+    const CEGUI::Sizef display(800, 600);
+    s_renderer = new RecordingRenderer();
+    s_renderer->setDisplaySize(display);
+    CEGUI::System::create(*s_renderer);
+    CEGUI::System::getSingleton().notifyDisplaySizeChanged(display);
+
+    auto* resources = static_cast<CEGUI::DefaultResourceProvider*>(
+        CEGUI::System::getSingleton().getResourceProvider());
+    resources->setResourceGroupDirectory("moxielook", MOXIE_DATA_DIR);
+    resources->setDefaultResourceGroup("moxielook");
+
+    CEGUI::SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    // Injected presses come faster than any hand: never let two fold into a double-click.
+    context().setMouseButtonMultiClickTimeout(1e-9); // 0 would mean "no limit"
+    freshSheet();
+}
+
+void stopGui()
+{
+    CEGUI::System::destroy();
+    delete s_renderer;
+    s_renderer = nullptr;
+    s_sheet = nullptr;
+    delete CEGUI::Logger::getSingletonPtr();
+}
+
+CEGUI::GUIContext& context()
+{
+    return CEGUI::System::getSingleton().getDefaultGUIContext();
+}
+
+CEGUI::Window& freshSheet()
+{
+    CEGUI::WindowManager& windows = CEGUI::WindowManager::getSingleton();
+    if (s_sheet)
+        windows.destroyWindow(s_sheet);
+    windows.cleanDeadPool();
+    s_sheet = windows.createWindow("DefaultWindow", "sheet");
+    s_sheet->setArea(
+        CEGUI::URect(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0), CEGUI::UDim(1, 0), CEGUI::UDim(1, 0)));
+    context().setRootWindow(s_sheet);
+    // Park the pointer off every window so that no test starts hovering.
+    context().injectMousePosition(799, 599);
+    return *s_sheet;
+}
+
+CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, float height)
+{
+    CEGUI::Window* window = CEGUI::WindowManager::getSingleton().createWindow(type);
+    window->setPosition(CEGUI::UVector2(CEGUI::UDim(0, x), CEGUI::UDim(0, y)));
+    window->setSize(CEGUI::USize(CEGUI::UDim(0, width), CEGUI::UDim(0, height)));
+    s_sheet->addChild(window);
+    return *window;
+}
+
+void pointerTo(float x, float y)
+{
+    context().injectMousePosition(x, y);
+}
+
+void leftDown()
+{
+    context().injectMouseButtonDown(CEGUI::LeftButton);
+}
+
+void leftUp()
+{
+    context().injectMouseButtonUp(CEGUI::LeftButton);
+}
+
+} // namespace moxietest

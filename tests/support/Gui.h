@@ -1,0 +1,35 @@
+// The CEGUI a host would have: the real library on the (recording) Null renderer,
+// resources from the project's data folder, the module loaded through MoxieLook.scheme.
+#pragma once
+
+#include <CEGUI/String.h>
+#include <CEGUI/Vector.h>
+#include <string>
+
+namespace CEGUI
+{
+class GUIContext;
+class Window;
+} // namespace CEGUI
+
+namespace moxietest
+{
+//! Brings the system up once for the whole test program.
+void startGui();
+void stopGui();
+
+CEGUI::GUIContext& context();
+//! A fresh, empty sheet the size of the display; earlier sheets are destroyed.
+CEGUI::Window& freshSheet();
+
+//! A window of `type` on the current sheet at (x, y) with the given pixel size.
+CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, float height);
+
+//! Moves the pointer to (x, y) and, optionally, presses or releases the left button.
+void pointerTo(float x, float y);
+void leftDown();
+void leftUp();
+
+std::string dataFile(const std::string& name);
+
+} // namespace moxietest

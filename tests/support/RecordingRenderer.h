@@ -1,0 +1,59 @@
+// CEGUI's Null renderer, unchanged, except that its geometry buffers also keep every
+// batch they are given, so tests can see exactly what a look drew.
+#pragma once
+
+#include <CEGUI/RendererModules/Null/GeometryBuffer.h>
+#include <CEGUI/RendererModules/Null/Renderer.h>
+#include <CEGUI/RendererModules/Null/Texture.h>
+#include <CEGUI/Vertex.h>
+#include <vector>
+
+namespace moxietest
+{
+class RecordingGeometryBuffer : public CEGUI::NullGeometryBuffer
+{
+public:
+    struct Batch
+    {
+        const CEGUI::Texture* texture;
+        std::vector<CEGUI::Vertex> vertices;
+    };
+
+    void setActiveTexture(CEGUI::Texture* texture) override;
+    void appendVertex(const CEGUI::Vertex& vertex) override;
+    void appendGeometry(const CEGUI::Vertex* const vertices, CEGUI::uint count) override;
+    void reset() override;
+
+    const std::vector<Batch>& batches() const { return d_batches; }
+
+private:
+    const CEGUI::Texture* d_texture = nullptr;
+    std::vector<Batch> d_batches;
+};
+
+//! A texture from a file that reports real texel scaling, so that recorded vertices carry
+//! the texture coordinates an image was cut from. (The plain Null texture reports none.)
+class ScaledNullTexture : public CEGUI::NullTexture
+{
+public:
+    explicit ScaledNullTexture(const CEGUI::String& name) : NullTexture(name) {}
+    ~ScaledNullTexture() override = default;
+
+    const CEGUI::Vector2f& getTexelScaling() const override;
+
+private:
+    mutable CEGUI::Vector2f d_scaling;
+};
+
+class RecordingRenderer : public CEGUI::NullRenderer
+{
+public:
+    RecordingRenderer() = default;
+    ~RecordingRenderer() override = default;
+
+    CEGUI::GeometryBuffer& createGeometryBuffer() override;
+    CEGUI::Texture& createTexture(const CEGUI::String& name, const CEGUI::String& filename,
+                                  const CEGUI::String& resourceGroup) override;
+};
+
+} // namespace moxietest
