@@ -1,0 +1,57 @@
+// What the gallery shows of each window type: one card per type, built by a small
+// function. A type joins the gallery with one entry in Samples.cpp.
+#pragma once
+
+#include <CEGUI/String.h>
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+namespace CEGUI
+{
+class Window;
+}
+
+namespace gallery
+{
+//! Places sample windows inside one card and tells the page which one to hover.
+class Card
+{
+public:
+    explicit Card(CEGUI::Window& content) : d_content(content) {}
+
+    //! A window of `type` at (x, y) in the card, with a caption under it.
+    CEGUI::Window& add(const CEGUI::String& type, const CEGUI::String& caption, float x, float y,
+                       float width, float height);
+
+    enum class State
+    {
+        Normal,
+        Hover,
+        Pushed,
+        Disabled,
+        Selected
+    };
+    //! One window per state, side by side, each captioned with its state.
+    void states(const CEGUI::String& type, const CEGUI::String& text, float width, float height,
+                std::initializer_list<State> states);
+
+    //! The window the pointer rests on when the card is photographed.
+    void hoverOn(CEGUI::Window& window) { d_hoverTarget = &window; }
+    CEGUI::Window* hoverTarget() const { return d_hoverTarget; }
+
+private:
+    CEGUI::Window& d_content;
+    CEGUI::Window* d_hoverTarget = nullptr;
+};
+
+struct Sample
+{
+    const char* type;
+    float height; //!< of the card's content, in pixels
+    std::function<void(Card&)> build;
+};
+
+const std::vector<Sample>& samples();
+
+} // namespace gallery
