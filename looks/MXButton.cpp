@@ -46,10 +46,10 @@ MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, 
 
 void MXButton::storeFrameSizes()
 {
-    d_leftWidth = lookImage(NormalLeftImageName).getRenderedSize().d_width;
-    d_rightWidth = lookImage(NormalRightImageName).getRenderedSize().d_width;
-    d_topHeight = lookImage(NormalTopImageName).getRenderedSize().d_height;
-    d_bottomHeight = lookImage(NormalBottomImageName).getRenderedSize().d_height;
+    d_frameSizes.left = lookImage(NormalLeftImageName).getRenderedSize().d_width;
+    d_frameSizes.right = lookImage(NormalRightImageName).getRenderedSize().d_width;
+    d_frameSizes.top = lookImage(NormalTopImageName).getRenderedSize().d_height;
+    d_frameSizes.bottom = lookImage(NormalBottomImageName).getRenderedSize().d_height;
 }
 
 void MXButton::drawNormal()
@@ -85,13 +85,9 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
     const float alpha = getEffectiveAlpha();
 
     if (isStandardImageryEnabled())
-    {
-        const Rectf fillArea(area.left() + d_leftWidth, area.top() + d_topHeight,
-                             area.right() - d_rightWidth, area.bottom() - d_bottomHeight);
-        d_background->render(buffer, fillArea, nullptr,
-                             withAlpha(diagonalGradient(primary, secondary), alpha));
-        frame.draw(buffer, area.d_min, nullptr);
-    }
+        drawFramedFill(buffer, area, *d_background,
+                       withAlpha(diagonalGradient(primary, secondary), alpha), frame,
+                       d_frameSizes);
 
     if (useCustomImage)
     {

@@ -3,6 +3,7 @@
 // pushed), the "ButtonArrowFill" fill, the "MouseArrow" cursor.
 #pragma once
 
+#include "draw/FramedFill.h"
 #include "draw/NinePieceFrame.h"
 #include "looks/LookFactory.h"
 #include "widgets/PushButtonEx.h"
@@ -82,10 +83,7 @@ protected:
     NinePieceFrame d_normalFrame;
     NinePieceFrame d_hoverFrame;
     NinePieceFrame d_pushedFrame;
-    float d_leftWidth = 0.0f;
-    float d_topHeight = 0.0f;
-    float d_rightWidth = 0.0f;
-    float d_bottomHeight = 0.0f;
+    EdgeInsets d_frameSizes; //!< left, top, right and bottom edge sizes
     const Image* d_background = nullptr;
 };
 

@@ -196,32 +196,23 @@ void PushButtonEx::setTextXOffset(float offset)
     invalidate();
 }
 
-PushButtonEx::DrawState PushButtonEx::getDrawState() const
-{
-    if (isEffectiveDisabled())
-        return DrawState::Disabled;
-    if (isPushed())
-        return isHovering() ? DrawState::Pushed : DrawState::Hover;
-    return isHovering() ? DrawState::Hover : DrawState::Normal;
-}
-
 void PushButtonEx::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;
 
-    switch (getDrawState())
+    switch (drawStateOf(*this))
     {
-    case DrawState::Normal:
+    case ButtonDrawState::Normal:
         drawNormal();
         break;
-    case DrawState::Hover:
+    case ButtonDrawState::Hover:
         drawHover();
         break;
-    case DrawState::Pushed:
+    case ButtonDrawState::Pushed:
         drawPushed();
         break;
-    case DrawState::Disabled:
+    case ButtonDrawState::Disabled:
         drawDisabled();
         break;
     }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "draw/FormattedImage.h"
+#include "widgets/ButtonDrawState.h"
 
 #include <CEGUI/widgets/PushButton.h>
 
@@ -14,14 +15,6 @@ namespace MoxieLook
 class PushButtonEx : public PushButton
 {
 public:
-    enum class DrawState
-    {
-        Normal,
-        Hover,
-        Pushed,
-        Disabled
-    };
-
     PushButtonEx(const String& type, const String& name);
 
     bool isStandardImageryEnabled() const { return d_useStandardImagery; }
@@ -57,10 +50,6 @@ public:
     //! Fraction of the width by which the text moves right.
     float getTextXOffset() const { return d_textXOffset; }
     void setTextXOffset(float offset);
-
-    //! Which of the four looks the button shows now: a pressed button whose pointer has
-    //! slipped off it shows hover, as CEGUI's own skins do.
-    DrawState getDrawState() const;
 
 protected:
     void populateGeometryBuffer() override;

@@ -1,0 +1,20 @@
+#include "draw/FramedFill.h"
+
+#include "draw/NinePieceFrame.h"
+
+#include <CEGUI/Image.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+void drawFramedFill(GeometryBuffer& buffer, const Rectf& area, const Image& fill,
+                    const ColourRect& fillColours, const NinePieceFrame& frame,
+                    const EdgeInsets& insets)
+{
+    fill.render(buffer, insets.inside(area), nullptr, fillColours);
+    frame.draw(buffer, area.d_min, nullptr);
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
