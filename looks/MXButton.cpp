@@ -86,8 +86,7 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
 
     if (isStandardImageryEnabled())
         drawFramedFill(buffer, area, *d_background,
-                       withAlpha(diagonalGradient(primary, secondary), alpha), frame,
-                       d_frameSizes);
+                       withAlpha(diagonalGradient(primary, secondary), alpha), frame, d_frameSizes);
 
     if (useCustomImage)
     {

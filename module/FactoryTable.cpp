@@ -1,7 +1,13 @@
 #include "module/FactoryTable.h"
 
 #include "looks/MXButton.h"
+#include "looks/MXScrollablePane.h"
+#include "looks/MXScrollbar.h"
+#include "looks/MXScrollbarThumb.h"
+#include "looks/MXSlider.h"
 
+#include <CEGUI/WindowFactoryManager.h>
+#include <CEGUI/WindowRendererManager.h>
 #include <array>
 #include <cstring>
 
@@ -12,11 +18,28 @@ namespace MoxieLook
 namespace
 {
 // One instance per type, built at load and destroyed at unload in reverse order.
-MXButtonFactory s_buttonFactory;
+MXScrollbarRendererFactory s_scrollbarRenderer;
+MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
+
+MXButtonFactory s_button;
+MXSliderThumbFactory s_sliderThumb;
+MXSliderFactory s_slider;
+MXVertScrollbarThumbFactory s_vertScrollbarThumb;
+MXVertScrollbarFactory s_vertScrollbar;
+MXHorzScrollbarThumbFactory s_horzScrollbarThumb;
+MXHorzScrollbarFactory s_horzScrollbar;
+MXScrollablePaneFactory s_scrollablePane;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
-    FactoryEntry{MXButton::WidgetTypeName, &s_buttonFactory},
+    FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
+    FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
+    FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
+    FactoryEntry{MXVertScrollbarThumb::WidgetTypeName, &s_vertScrollbarThumb, nullptr},
+    FactoryEntry{MXVertScrollbar::WidgetTypeName, &s_vertScrollbar, &s_scrollbarRenderer},
+    FactoryEntry{MXHorzScrollbarThumb::WidgetTypeName, &s_horzScrollbarThumb, nullptr},
+    FactoryEntry{MXHorzScrollbar::WidgetTypeName, &s_horzScrollbar, &s_scrollbarRenderer},
+    FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
 };
 } // namespace
 
@@ -35,12 +58,42 @@ std::size_t factoryTableSize()
     return k_table.size();
 }
 
-WindowFactory* findModuleFactory(const char* typeName)
+const FactoryEntry* findModuleEntry(const char* typeName)
 {
     for (const FactoryEntry& entry : k_table)
         if (std::strcmp(entry.typeName, typeName) == 0)
-            return entry.factory;
+            return &entry;
     return nullptr;
+}
+
+WindowFactory* findModuleFactory(const char* typeName)
+{
+    const FactoryEntry* entry = findModuleEntry(typeName);
+    return entry ? entry->factory : nullptr;
+}
+
+void addToCegui(const FactoryEntry& entry)
+{
+    WindowFactoryManager::getSingleton().addFactory(entry.factory);
+    WindowRendererManager& renderers = WindowRendererManager::getSingleton();
+    if (entry.renderer && !renderers.isFactoryPresent(entry.renderer->getName()))
+        renderers.addFactory(entry.renderer);
+}
+
+void removeFromCegui(const FactoryEntry& entry)
+{
+    WindowFactoryManager& windows = WindowFactoryManager::getSingleton();
+    windows.removeFactory(entry.typeName);
+    if (!entry.renderer)
+        return;
+    for (const FactoryEntry& other : k_table)
+        if (other.renderer == entry.renderer && windows.isFactoryPresent(other.typeName) &&
+            windows.getFactory(other.typeName) == other.factory)
+            return;
+    WindowRendererManager& renderers = WindowRendererManager::getSingleton();
+    if (renderers.isFactoryPresent(entry.renderer->getName()) &&
+        renderers.getFactory(entry.renderer->getName()) == entry.renderer)
+        renderers.removeFactory(entry.renderer->getName());
 }
 
 } // namespace MoxieLook

@@ -17,20 +17,14 @@ class FactoryRegistration : public FactoryRegisterer
 {
 public:
     explicit FactoryRegistration(const FactoryEntry& entry)
-        : FactoryRegisterer(entry.typeName), d_factory(entry.factory)
+        : FactoryRegisterer(entry.typeName), d_entry(entry)
     {
     }
 
-    void unregisterFactory() const override
-    {
-        WindowFactoryManager::getSingleton().removeFactory(d_type);
-    }
+    void unregisterFactory() const override { removeFromCegui(d_entry); }
 
 protected:
-    void doFactoryAdd() const override
-    {
-        WindowFactoryManager::getSingleton().addFactory(d_factory);
-    }
+    void doFactoryAdd() const override { addToCegui(d_entry); }
 
     bool isAlreadyRegistered() const override
     {
@@ -38,7 +32,7 @@ protected:
     }
 
 private:
-    WindowFactory* d_factory;
+    const FactoryEntry& d_entry;
 };
 
 class MoxieLookFactoryModule : public FactoryModule
@@ -69,14 +63,10 @@ CEGUI::FactoryModule& getWindowFactoryModule()
 void registerFactory(const CEGUI::String& type)
 {
     using namespace CEGUI;
-    for (const MoxieLook::FactoryEntry* entry = MoxieLook::factoryTableBegin();
-         entry != MoxieLook::factoryTableEnd(); ++entry)
+    if (const MoxieLook::FactoryEntry* entry = MoxieLook::findModuleEntry(type.c_str()))
     {
-        if (type == entry->typeName)
-        {
-            WindowFactoryManager::getSingleton().addFactory(entry->factory);
-            return;
-        }
+        MoxieLook::addToCegui(*entry);
+        return;
     }
     throw UnknownObjectException("::registerFactory - The window factory for type '" + type +
                                  "' is not known in this module.");

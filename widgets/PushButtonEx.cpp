@@ -201,21 +201,11 @@ void PushButtonEx::populateGeometryBuffer()
     if (!hasVisibleArea(*this))
         return;
 
-    switch (drawStateOf(*this))
-    {
-    case ButtonDrawState::Normal:
-        drawNormal();
-        break;
-    case ButtonDrawState::Hover:
-        drawHover();
-        break;
-    case ButtonDrawState::Pushed:
-        drawPushed();
-        break;
-    case ButtonDrawState::Disabled:
-        drawDisabled();
-        break;
-    }
+    // In the order of ButtonDrawState.
+    static constexpr void (PushButtonEx::*draw[])() = {
+        &PushButtonEx::drawNormal, &PushButtonEx::drawHover, &PushButtonEx::drawPushed,
+        &PushButtonEx::drawDisabled};
+    (this->*draw[static_cast<int>(drawStateOf(*this))])();
 }
 
 void PushButtonEx::onSized(ElementEventArgs& e)

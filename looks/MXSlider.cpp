@@ -1,0 +1,186 @@
+#include "looks/MXSlider.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+#include "widgets/ButtonDrawState.h"
+
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const char* MXSlider::ThumbType = "MoxieLook/SliderThumb";
+
+MXSlider::MXSlider(const String& type, const String& name)
+    : Slider(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
+      d_trackMiddle(&lookImage(TrackMiddleImageName)),
+      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName))
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXSlider, float, "TickFrequency",
+                          "Property to get/set how many click steps lie between two tick "
+                          "marks; 0 shows none. Value is a float.",
+                          &MXSlider::setTickFrequency, &MXSlider::getTickFrequency,
+                          DefaultTickFrequency);
+}
+
+void MXSlider::setTickFrequency(float frequency)
+{
+    d_tickFrequency = frequency;
+    invalidate();
+}
+
+void MXSlider::initialiseComponents()
+{
+    if (!isChild(ThumbName))
+        addChild(createThumb(ThumbName));
+    Slider::initialiseComponents();
+}
+
+Thumb* MXSlider::createThumb(const String& name) const
+{
+    Thumb* thumb = createAutoPart<Thumb>(ThumbType, name, "a slider thumb");
+    thumb->setHorzFree(true);
+    return thumb;
+}
+
+void MXSlider::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    Slider::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
+    Window* thumb = partOrNull(*this, ThumbName);
+    if (!thumb)
+        return; // still being built
+    const Sizef size = lookImage(MXSliderThumb::NormalImageName).getRenderedSize();
+    thumb->setSize(USize(cegui_absdim(size.d_width), cegui_absdim(size.d_height)));
+    updateThumb();
+}
+
+void MXSlider::updateThumb()
+{
+    Thumb* thumb = getThumb();
+    const Sizef own = getPixelSize();
+    const Sizef thumbSize = thumb->getPixelSize();
+    const float free = own.d_width - thumbSize.d_width;
+    const float max = getMaxValue();
+    const float x = max > 0 ? free / max * getCurrentValue() : 0.0f;
+    auto fraction = [&](float pixels) { return own.d_width > 0 ? pixels / own.d_width : 0.0f; };
+    thumb->setHorzRange(0.0f, fraction(free));
+    thumb->setPosition(
+        UVector2(cegui_reldim(fraction(x)), cegui_absdim(own.d_height - thumbSize.d_height)));
+}
+
+float MXSlider::getValueFromThumb() const
+{
+    const Thumb* thumb = getThumb();
+    const float x =
+        thumb->getUnclippedOuterRect().get().left() - getUnclippedOuterRect().get().left();
+    const float travel = getPixelSize().d_width - thumb->getPixelSize().d_width;
+    if (travel <= 0 || getMaxValue() <= 0)
+        return 0.0f;
+    return x / (travel / getMaxValue());
+}
+
+float MXSlider::getAdjustDirectionFromPoint(const Vector2f& point) const
+{
+    const Rectf thumb = getThumb()->getUnclippedOuterRect().get();
+    if (point.d_x < thumb.left())
+        return -1.0f;
+    if (point.d_x > thumb.right())
+        return 1.0f;
+    return 0.0f;
+}
+
+MXSlider::Ticks MXSlider::ticks() const
+{
+    const float width = getPixelSize().d_width;
+    const float max = getMaxValue();
+    if (d_tickFrequency <= 0 || max <= 0)
+        return {0.0f, 0};
+    const float travel = width - getThumb()->getPixelSize().d_width;
+    const float spacing =
+        std::max(std::trunc(travel / max * getClickStep() * d_tickFrequency + 0.5f), 0.0f);
+    // A spacing that rounds to nothing would mean endless ticks: draw none.
+    if (spacing <= 0)
+        return {0.0f, 0};
+    return {spacing, static_cast<int>(width / spacing) + 1};
+}
+
+void MXSlider::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const ColourRect white = withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha());
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    const Window* thumb = getThumb();
+    const Sizef thumbSize = thumb->getPixelSize();
+
+    const float lw = d_trackLeft->getRenderedSize().d_width;
+    const float rw = d_trackRight->getRenderedSize().d_width;
+    const float mid = area.getWidth() - lw - rw;
+    const float h = d_trackMiddle->getRenderedSize().d_height;
+    // The thumb sits on the bottom edge; the track's top runs through its middle.
+    const float y = area.bottom() - std::trunc(thumbSize.d_height * 0.5f + 0.5f);
+    d_trackLeft->render(buffer, Rectf(Vector2f(area.left(), y), Sizef(lw, h)), nullptr, white);
+    d_trackMiddle->render(buffer, Rectf(Vector2f(area.left() + lw, y), Sizef(mid, h)), nullptr,
+                          white);
+    d_trackRight->render(buffer, Rectf(Vector2f(area.left() + lw + mid, y), Sizef(rw, h)), nullptr,
+                         white);
+
+    const Ticks marks = ticks();
+    const float thumbY =
+        thumb->getUnclippedOuterRect().get().top() - getUnclippedOuterRect().get().top();
+    Vector2f at(area.left() + std::trunc(thumbSize.d_width * 0.5f + 0.5f),
+                area.top() + thumbY - d_tick->getRenderedSize().d_height);
+    for (int i = 0; i < marks.count; ++i, at.d_x += marks.spacing)
+        d_tick->render(buffer, at, nullptr, white);
+}
+
+MXSliderThumb::MXSliderThumb(const String& type, const String& name)
+    : Thumb(type, name), d_normal(&lookImage(NormalImageName)),
+      d_highlight(&lookImage(HighlightImageName))
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
+void MXSliderThumb::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    // In the order of ButtonDrawState.
+    static constexpr void (MXSliderThumb::*draw[])() = {
+        &MXSliderThumb::drawNormal, &MXSliderThumb::drawHover, &MXSliderThumb::drawPushed,
+        &MXSliderThumb::drawDisabled};
+    (this->*draw[static_cast<int>(drawStateOf(*this))])();
+}
+
+void MXSliderThumb::drawNormal()
+{
+    drawImage(*d_normal);
+}
+
+void MXSliderThumb::drawHover()
+{
+    drawImage(*d_highlight);
+}
+
+void MXSliderThumb::drawPushed()
+{
+    drawHover();
+}
+
+void MXSliderThumb::drawDisabled()
+{
+    drawImage(*d_normal);
+}
+
+void MXSliderThumb::drawImage(const Image& image)
+{
+    image.render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
+                 withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha()));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,91 @@
+// "MoxieLook/Slider": a thumb ("MoxieLook/SliderThumb") riding on the bottom edge over a
+// three-piece track, with tick marks above it.
+// Images: "SliderTrackLeft", "SlidertrackMiddle", "SliderTrackRight", "SliderTick";
+// the thumb: "SliderThumbNormal", "SliderThumbHover", cursor "MouseEsWeCursor".
+#pragma once
+
+#include "looks/LookFactory.h"
+
+#include <CEGUI/widgets/Slider.h>
+#include <CEGUI/widgets/Thumb.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+class MXSlider : public Slider
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/Slider";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
+    static constexpr char TrackLeftImageName[] = "SliderTrackLeft";
+    static constexpr char TrackMiddleImageName[] = "SlidertrackMiddle";
+    static constexpr char TrackRightImageName[] = "SliderTrackRight";
+    static constexpr char CalibrationMarkImageName[] = "SliderTick";
+    static constexpr float DefaultTickFrequency = 5.0f;
+    static const char* ThumbType;
+
+    MXSlider(const String& type, const String& name);
+
+    void initialiseComponents() override;
+    void performChildWindowLayout(bool nonclientSizedHint = false,
+                                  bool clientSizedHint = false) override;
+
+    //! Ticks every `frequency` click steps; 0 or less: no ticks.
+    float getTickFrequency() const { return d_tickFrequency; }
+    void setTickFrequency(float frequency);
+
+    //! Tick marks for the current size, value range and click step.
+    struct Ticks
+    {
+        float spacing; //!< pixels between two ticks
+        int count;     //!< ticks drawn, one more than the spaces that fit
+    };
+    Ticks ticks() const;
+
+protected:
+    virtual Thumb* createThumb(const String& name) const;
+    void updateThumb() override;
+    float getValueFromThumb() const override;
+    float getAdjustDirectionFromPoint(const Vector2f& point) const override;
+    void populateGeometryBuffer() override;
+
+private:
+    float d_tickFrequency = DefaultTickFrequency;
+    const Image* d_trackLeft;
+    const Image* d_trackMiddle;
+    const Image* d_trackRight;
+    const Image* d_tick;
+};
+
+class MXSliderThumb : public Thumb
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/SliderThumb";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseEsWeCursor";
+    static constexpr char NormalImageName[] = "SliderThumbNormal";
+    static constexpr char HighlightImageName[] = "SliderThumbHover";
+
+    MXSliderThumb(const String& type, const String& name);
+
+protected:
+    void populateGeometryBuffer() override;
+    void drawNormal();
+    void drawHover();
+    void drawPushed();
+    void drawDisabled();
+
+private:
+    void drawImage(const Image& image);
+
+    const Image* d_normal;
+    const Image* d_highlight;
+};
+
+using MXSliderFactory = LookFactory<MXSlider>;
+using MXSliderThumbFactory = LookFactory<MXSliderThumb>;
+
+} // namespace MoxieLook
+} // namespace CEGUI
