@@ -104,7 +104,7 @@ void MXScrollablePane::performChildWindowLayout(bool nonclientSizedHint, bool cl
                   USize(cegui_absdim(std::max(horzLength, 0.0f)), cegui_absdim(t)));
 }
 
-void MXScrollablePane::drawSelf()
+void MXScrollablePane::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;

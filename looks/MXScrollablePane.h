@@ -48,7 +48,7 @@ public:
 
     // What CEGUI's ScrollablePane asks its renderer for (window-local pixels).
     Rectf viewableArea() const;
-    void drawSelf();
+    void populateGeometryBuffer() override;
 
 private:
     EdgeInsets frameInsets() const;
@@ -66,7 +66,7 @@ public:
     static constexpr char TypeName[] = "MoxieLook/ScrollablePaneRenderer";
     using LookRenderer::LookRenderer;
 
-    void render() override { look().drawSelf(); }
+    void render() override { look().populateGeometryBuffer(); }
     Rectf getViewableArea() const override { return look().viewableArea(); }
     //! Content is clipped to the viewable area, not to the frame.
     Rectf getUnclippedInnerRect() const override;

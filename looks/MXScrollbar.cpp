@@ -201,7 +201,7 @@ float MXScrollbarBase::getAdjustDirectionFromPoint(const Vector2f& point) const
     return 0.0f;
 }
 
-void MXScrollbarBase::drawSelf()
+void MXScrollbarBase::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;

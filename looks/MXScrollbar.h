@@ -42,7 +42,7 @@ public:
     void updateThumb();
     float getValueFromThumb() const;
     float getAdjustDirectionFromPoint(const Vector2f& point) const;
-    void drawSelf();
+    void populateGeometryBuffer() override;
 
     const NinePieceFrame& getFrame() const { return d_frame; }
 
@@ -123,7 +123,7 @@ public:
     static constexpr char TypeName[] = "MoxieLook/ScrollbarRenderer";
     using LookRenderer::LookRenderer;
 
-    void render() override { look().drawSelf(); }
+    void render() override { look().populateGeometryBuffer(); }
     void updateThumb() override { look().updateThumb(); }
     float getValueFromThumb() const override { return look().getValueFromThumb(); }
     float getAdjustDirectionFromPoint(const Vector2f& point) const override
