@@ -24,6 +24,12 @@ ColourRect withAlpha(ColourRect colours, float alpha)
     return colours;
 }
 
+ColourRect faded(ColourRect colours, float alpha)
+{
+    colours.modulateAlpha(alpha);
+    return colours;
+}
+
 ColourRect diagonalGradient(const Colour& primary, const Colour& secondary)
 {
     return ColourRect(primary, secondary, secondary, primary);

@@ -22,6 +22,9 @@ const Image& lookImage(const String& name);
 Colour withAlpha(Colour colour, float alpha);
 ColourRect withAlpha(ColourRect colours, float alpha);
 
+//! Colours a host chose keep their own alpha, faded by the window's.
+ColourRect faded(ColourRect colours, float alpha);
+
 //! Primary in the top-left and bottom-right corners, secondary in the other two.
 ColourRect diagonalGradient(const Colour& primary, const Colour& secondary);
 

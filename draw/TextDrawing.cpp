@@ -41,6 +41,40 @@ std::unique_ptr<FormattedRenderedString> formatterFor(const RenderedString& text
 }
 } // namespace
 
+namespace
+{
+const char* const HorzNames[] = {"LeftAligned",     "RightAligned",        "HorzCentred",
+                                 "HorzJustified",   "WordWrapLeftAligned", "WordWrapRightAligned",
+                                 "WordWrapCentred", "WordWrapJustified"};
+const char* const VertNames[] = {"TopAligned", "BottomAligned", "VertCentred"};
+} // namespace
+
+HorzTextFormat horzTextFormatFromName(const String& name)
+{
+    for (int i = 0; i < 8; ++i)
+        if (name == HorzNames[i])
+            return static_cast<HorzTextFormat>(i);
+    return HorzTextFormat::Left;
+}
+
+String nameOf(HorzTextFormat format)
+{
+    return HorzNames[static_cast<int>(format)];
+}
+
+VertTextFormat vertTextFormatFromName(const String& name)
+{
+    for (int i = 0; i < 3; ++i)
+        if (name == VertNames[i])
+            return static_cast<VertTextFormat>(i);
+    return VertTextFormat::Top;
+}
+
+String nameOf(VertTextFormat format)
+{
+    return VertNames[static_cast<int>(format)];
+}
+
 float drawText(const Window& window, GeometryBuffer& buffer, const RenderedString& text,
                const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
                const ColourRect& colours, const Rectf* clip)

@@ -3,6 +3,7 @@
 
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Rect.h>
+#include <CEGUI/String.h>
 
 namespace CEGUI
 {
@@ -30,6 +31,15 @@ enum class VertTextFormat
     Bottom,
     Centred
 };
+
+//! The names hosts and layout files use: "LeftAligned", "RightAligned", "HorzCentred",
+//! "HorzJustified", "WordWrapLeftAligned", "WordWrapRightAligned", "WordWrapCentred",
+//! "WordWrapJustified"; and "TopAligned", "BottomAligned", "VertCentred". An unknown
+//! name reads as the first of its list.
+HorzTextFormat horzTextFormatFromName(const String& name);
+String nameOf(HorzTextFormat format);
+VertTextFormat vertTextFormatFromName(const String& name);
+String nameOf(VertTextFormat format);
 
 //! Draws `text` (already parsed, with its fonts) into `area`. The colours modulate those
 //! of the text itself, which are white unless the text carries its own markup.

@@ -5,6 +5,7 @@
 #include "looks/MXScrollbar.h"
 #include "looks/MXScrollbarThumb.h"
 #include "looks/MXSlider.h"
+#include "looks/MXStatics.h"
 
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowRendererManager.h>
@@ -21,6 +22,9 @@ namespace
 MXScrollbarRendererFactory s_scrollbarRenderer;
 MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
 
+MXStaticLayoutFactory s_staticLayout;
+MXStaticTextFactory s_staticText;
+MXStaticImageFactory s_staticImage;
 MXButtonFactory s_button;
 MXSliderThumbFactory s_sliderThumb;
 MXSliderFactory s_slider;
@@ -29,9 +33,14 @@ MXVertScrollbarFactory s_vertScrollbar;
 MXHorzScrollbarThumbFactory s_horzScrollbarThumb;
 MXHorzScrollbarFactory s_horzScrollbar;
 MXScrollablePaneFactory s_scrollablePane;
+MXTextItemFactory s_textItem;
+MXTextItemExFactory s_textItemEx;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
+    FactoryEntry{MXStaticLayout::WidgetTypeName, &s_staticLayout, nullptr},
+    FactoryEntry{MXStaticText::WidgetTypeName, &s_staticText, nullptr},
+    FactoryEntry{MXStaticImage::WidgetTypeName, &s_staticImage, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
     FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
@@ -40,6 +49,8 @@ const std::array k_table{
     FactoryEntry{MXHorzScrollbarThumb::WidgetTypeName, &s_horzScrollbarThumb, nullptr},
     FactoryEntry{MXHorzScrollbar::WidgetTypeName, &s_horzScrollbar, &s_scrollbarRenderer},
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
+    FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
+    FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
 };
 } // namespace
 

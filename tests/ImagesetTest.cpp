@@ -113,7 +113,7 @@ const char* const FramePrefixes[] = {"ButtonArrow",  "ButtonArrowFocus", "Button
 
 TEST(Imageset, EveryImageNamedInTheCodeExists)
 {
-    const std::regex named(R"((?:ImageName\[\]\s*=\s*|lookImage\()\s*"(\w+)\")");
+    const std::regex named(R"((?:Image(?:Name)?\[\]\s*=\s*|lookImage\()\s*"(\w+)\")");
     std::set<std::string> names;
     for (const char* folder : {"module", "widgets", "looks", "draw"})
         for (const auto& entry : std::filesystem::recursive_directory_iterator(

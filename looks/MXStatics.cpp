@@ -1,0 +1,45 @@
+#include "looks/MXStatics.h"
+
+#include "draw/Imagery.h"
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+void StaticFrameImages::applyTo(Static& target)
+{
+    target.setFrameImages(&lookImage(TopLeftImage), &lookImage(TopRightImage),
+                          &lookImage(BottomLeftImage), &lookImage(BottomRightImage),
+                          &lookImage(LeftImage), &lookImage(TopImage), &lookImage(RightImage),
+                          &lookImage(BottomImage));
+    target.setBackgroundImage(&lookImage(BackgroundImage));
+}
+
+void MXStaticLayout::initialiseComponents()
+{
+    StaticLayout::initialiseComponents();
+    applyTo(*this);
+    setFrameEnabled(true);
+    setBackgroundEnabled(false);
+}
+
+MXStaticText::MXStaticText(const String& type, const String& name) : StaticText(type, name)
+{
+    applyTo(*this);
+}
+
+MXStaticImage::MXStaticImage(const String& type, const String& name) : StaticImage(type, name)
+{
+    applyTo(*this);
+    setFrameEnabled(false);
+    setBackgroundEnabled(false);
+}
+
+MXTextItemEx::MXTextItemEx(const String& type, const String& name) : TextItemEx(type, name)
+{
+    setSelectionBrush(&lookImage(SelectionBrushImageName));
+    setHoverBrush(&lookImage(HoverBrushImageName));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

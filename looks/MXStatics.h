@@ -1,0 +1,87 @@
+// The looks of the static family: they choose the "MoxieLook" imagery; drawing is the
+// logic classes' own.
+// Images: the "StaticFrame..." frame and "StaticFrameFill" (statics and the layout),
+// "ListboxSelectionBrush" and "ListboxHoverBrush" (the extended text item).
+#pragma once
+
+#include "looks/LookFactory.h"
+#include "widgets/StaticImage.h"
+#include "widgets/StaticLayout.h"
+#include "widgets/StaticText.h"
+#include "widgets/TextItemEx.h"
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+//! The "StaticFrame..." images every static look frames itself with.
+struct StaticFrameImages
+{
+    static constexpr char TopLeftImage[] = "StaticFrameTopLeft";
+    static constexpr char TopImage[] = "StaticFrameTop";
+    static constexpr char TopRightImage[] = "StaticFrameTopRight";
+    static constexpr char LeftImage[] = "StaticFrameLeft";
+    static constexpr char RightImage[] = "StaticFrameRight";
+    static constexpr char BottomLeftImage[] = "StaticFrameBottomLeft";
+    static constexpr char BottomImage[] = "StaticFrameBottom";
+    static constexpr char BottomRightImage[] = "StaticFrameBottomRight";
+    static constexpr char BackgroundImage[] = "StaticFrameFill";
+
+    //! Gives `target` the frame images and the background image (states unchanged).
+    static void applyTo(Static& target);
+};
+
+//! "MoxieLook/StaticLayout": framed, with the fill image set but not drawn.
+class MXStaticLayout : public StaticLayout, public StaticFrameImages
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/StaticLayout";
+    MXStaticLayout(const String& type, const String& name) : StaticLayout(type, name) {}
+    void initialiseComponents() override;
+};
+
+//! "MoxieLook/StaticText": framed and filled, black text.
+class MXStaticText : public StaticText, public StaticFrameImages
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/StaticText";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    MXStaticText(const String& type, const String& name);
+};
+
+//! "MoxieLook/StaticImage": a bare picture; frame and fill can be switched on.
+class MXStaticImage : public StaticImage, public StaticFrameImages
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/StaticImage";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    MXStaticImage(const String& type, const String& name);
+};
+
+//! "MoxieLook/TextItem".
+class MXTextItem : public TextItem
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/TextItem";
+    MXTextItem(const String& type, const String& name) : TextItem(type, name) {}
+};
+
+//! "MoxieLook/TextItemEx".
+class MXTextItemEx : public TextItemEx
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/TextItemEx";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char SelectionBrushImageName[] = "ListboxSelectionBrush";
+    static constexpr char HoverBrushImageName[] = "ListboxHoverBrush";
+    MXTextItemEx(const String& type, const String& name);
+};
+
+using MXStaticLayoutFactory = LookFactory<MXStaticLayout>;
+using MXStaticTextFactory = LookFactory<MXStaticText>;
+using MXStaticImageFactory = LookFactory<MXStaticImage>;
+using MXTextItemFactory = LookFactory<MXTextItem>;
+using MXTextItemExFactory = LookFactory<MXTextItemEx>;
+
+} // namespace MoxieLook
+} // namespace CEGUI

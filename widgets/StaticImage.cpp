@@ -1,0 +1,112 @@
+#include "widgets/StaticImage.h"
+
+#include "draw/Imagery.h"
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+const char* const HorzNames[] = {"LeftAligned", "RightAligned", "HorzStretched", "HorzCentred",
+                                 "HorzTiled"};
+const char* const VertNames[] = {"TopAligned", "BottomAligned", "VertStretched", "VertCentred",
+                                 "VertTiled"};
+} // namespace
+
+StaticImage::StaticImage(const String& type, const String& name) : Static(type, name)
+{
+    d_image.setHorzFormatting(FormattedImage::HorzStretched);
+    d_image.setVertFormatting(FormattedImage::VertStretched);
+
+    const String propertyOrigin("MoxieLook/StaticImage");
+    CEGUI_DEFINE_PROPERTY(StaticImage, Image*, "Image",
+                          "Property to get/set the image shown. Value is an image name such as "
+                          "\"MoxieLook/IconStar\".",
+                          &StaticImage::setImage, &StaticImage::getImage, nullptr);
+    CEGUI_DEFINE_PROPERTY(StaticImage, ColourRect, "ImageColours",
+                          "Property to get/set the colours the image is drawn in. Value is "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &StaticImage::setImageColours, &StaticImage::getImageColours,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(StaticImage, String, "HorzFormatting",
+                          "Property to get/set the horizontal formatting of the image. Value is "
+                          "one of LeftAligned, RightAligned, HorzStretched, HorzCentred, "
+                          "HorzTiled.",
+                          &StaticImage::setHorzFormattingName, &StaticImage::getHorzFormattingName,
+                          "HorzStretched");
+    CEGUI_DEFINE_PROPERTY(StaticImage, String, "VertFormatting",
+                          "Property to get/set the vertical formatting of the image. Value is "
+                          "one of TopAligned, BottomAligned, VertStretched, VertCentred, "
+                          "VertTiled.",
+                          &StaticImage::setVertFormattingName, &StaticImage::getVertFormattingName,
+                          "VertStretched");
+}
+
+void StaticImage::setImage(const Image* image)
+{
+    d_image.setImage(image);
+    invalidate();
+}
+
+void StaticImage::setImageColours(const ColourRect& colours)
+{
+    d_image.setColours(colours);
+    invalidate();
+}
+
+void StaticImage::setFormatting(FormattedImage::HorzFormatting horz,
+                                FormattedImage::VertFormatting vert)
+{
+    d_image.setHorzFormatting(horz);
+    d_image.setVertFormatting(vert);
+    invalidate();
+}
+
+FormattedImage::HorzFormatting StaticImage::horzFormattingFromName(const String& name)
+{
+    for (int i = 0; i < 5; ++i)
+        if (name == HorzNames[i])
+            return static_cast<FormattedImage::HorzFormatting>(i);
+    return FormattedImage::HorzStretched;
+}
+
+FormattedImage::VertFormatting StaticImage::vertFormattingFromName(const String& name)
+{
+    for (int i = 0; i < 5; ++i)
+        if (name == VertNames[i])
+            return static_cast<FormattedImage::VertFormatting>(i);
+    return FormattedImage::VertStretched;
+}
+
+void StaticImage::setHorzFormattingName(const String& name)
+{
+    setFormatting(horzFormattingFromName(name), getVertFormatting());
+}
+
+String StaticImage::getHorzFormattingName() const
+{
+    return HorzNames[getHorzFormatting()];
+}
+
+void StaticImage::setVertFormattingName(const String& name)
+{
+    setFormatting(getHorzFormatting(), vertFormattingFromName(name));
+}
+
+String StaticImage::getVertFormattingName() const
+{
+    return VertNames[getVertFormatting()];
+}
+
+void StaticImage::drawContent(GeometryBuffer& buffer, const Rectf& inner)
+{
+    // The image's own colours are the host's; only the window's alpha fades them.
+    FormattedImage image = d_image;
+    image.setSize(inner.getSize());
+    image.setColours(faded(d_image.getColours(), getEffectiveAlpha()));
+    image.draw(buffer, inner.d_min, nullptr);
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
