@@ -37,6 +37,8 @@ GalleryPage::GalleryPage(const Sizef& display) : d_viewHeight(display.d_height)
     System::getSingleton().getDefaultGUIContext().setRootWindow(sheet);
 
     d_pane = windows.createWindow("DefaultWindow", "pane");
+    // CEGUI caps a window at its parent's size by default; the page is taller than the view.
+    d_pane->setMaxSize(USize(cegui_absdim(1e6f), cegui_absdim(1e6f)));
     sheet->addChild(d_pane);
 
     // Cards fill two columns, each new card going to the shorter one.

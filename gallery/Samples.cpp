@@ -3,6 +3,8 @@
 #include "Label.h"
 #include "draw/Imagery.h"
 #include "widgets/PushButtonEx.h"
+#include "widgets/StaticLayout.h"
+#include "widgets/TextItemEx.h"
 
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/ButtonBase.h>
@@ -119,6 +121,28 @@ void paneWithContent(Card& card, const String& caption, float x, float w, float 
         }
 }
 
+// A small StaticLayout using `rule`, filled with `count` numbered buttons.
+MoxieLook::StaticLayout& layoutSample(Card& card, const char* rule, const String& caption, float x,
+                                      int count)
+{
+    auto& layout = static_cast<MoxieLook::StaticLayout&>(
+        card.add("MoxieLook/StaticLayout", caption, x, 10, 112, 96));
+    layout.setProperty("Layout", rule);
+    layout.setProperty("Margin", "3");
+    const char* borders[] = {"NorthBorder", "SouthBorder", "WestBorder", "EastBorder",
+                             "CenterBorder"};
+    for (int i = 0; i < count; ++i)
+    {
+        if (String(rule) == "BorderLayout")
+            layout.setProperty("Border", borders[i]);
+        Window* button = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+        button->setSize(USize(cegui_absdim(i % 2 ? 34.0f : 28.0f), cegui_absdim(20)));
+        button->setText(PropertyHelper<int>::toString(i + 1));
+        layout.addChild(button);
+    }
+    return layout;
+}
+
 const std::vector<Sample>& samples()
 {
     using State = Card::State;
@@ -196,6 +220,96 @@ const std::vector<Sample>& samples()
          {
              paneWithContent(card, "content larger both ways", 10, 300, 120, 5, 6);
              paneWithContent(card, "taller content only", 330, 270, 120, 2, 6);
+         }},
+        {"MoxieLook/StaticLayout", 130,
+         [](Card& card)
+         {
+             layoutSample(card, "FlowLayout", "flow", 10, 6);
+             layoutSample(card, "FillLayout", "fill", 130, 1);
+             auto& grid = layoutSample(card, "GridLayout", "grid 2 x 3", 250, 6);
+             grid.setProperty("GridSize", "rows:2 cols:3");
+             layoutSample(card, "BorderLayout", "border", 370, 5);
+             // Drag the small layout onto the text to try drag-and-drop.
+             Window& target = card.add("MoxieLook/StaticText", "", 490, 60, 112, 46);
+             target.setText("drop here");
+             target.setProperty("HorzFormatting", "HorzCentred");
+             auto& draggable = layoutSample(card, "FlowLayout", "drag me", 490, 2);
+             draggable.setSize(USize(cegui_absdim(70), cegui_absdim(32)));
+             draggable.SetDragAuthorized(true);
+             draggable.AddDropTarget(&target);
+             target.subscribeEvent(MoxieLook::EventDropped,
+                                   [&target] { target.setText("dropped!"); });
+             draggable.subscribeEvent(MoxieLook::EventDropCancelled,
+                                      [&target] { target.setText("cancelled"); });
+         }},
+        {"MoxieLook/StaticText", 64,
+         [](Card& card)
+         {
+             card.add("MoxieLook/StaticText", "left aligned", 10, 10, 140, 34)
+                 .setText("Static text");
+             Window& centred = card.add("MoxieLook/StaticText", "centred", 160, 10, 140, 34);
+             centred.setText("Centred");
+             centred.setProperty("HorzFormatting", "HorzCentred");
+             Window& wrapped = card.add("MoxieLook/StaticText", "word wrapped", 310, 10, 140, 34);
+             wrapped.setText("Words wrap onto the next line");
+             wrapped.setProperty("HorzFormatting", "WordWrapCentred");
+             Window& bare =
+                 card.add("MoxieLook/StaticText", "no frame, coloured", 460, 10, 140, 34);
+             bare.setText("Plain label");
+             bare.setProperty("FrameEnabled", "False");
+             bare.setProperty("BackgroundEnabled", "False");
+             bare.setProperty("TextColours", "tl:FF2858A8 tr:FF2858A8 bl:FF8A2020 br:FF8A2020");
+         }},
+        {"MoxieLook/StaticImage", 74,
+         [](Card& card)
+         {
+             auto image = [&](const String& caption, float x, const char* horz, const char* vert,
+                              bool framed) -> Window&
+             {
+                 Window& w = card.add("MoxieLook/StaticImage", caption, x, 10, 100, 44);
+                 w.setProperty("Image", "MoxieLook/IconStar");
+                 w.setProperty("HorzFormatting", horz);
+                 w.setProperty("VertFormatting", vert);
+                 w.setProperty("FrameEnabled", framed ? "True" : "False");
+                 w.setProperty("BackgroundEnabled", framed ? "True" : "False");
+                 return w;
+             };
+             image("stretched", 10, "HorzStretched", "VertStretched", false);
+             image("centred, framed", 130, "HorzCentred", "VertCentred", true);
+             image("tiled, framed", 250, "HorzTiled", "VertTiled", true);
+             image("tinted", 370, "HorzCentred", "VertCentred", false)
+                 .setProperty("ImageColours", "tl:FF80C0FF tr:FF80C0FF bl:FF2040A0 br:FF2040A0");
+             Window& folder = image("folder, right", 490, "RightAligned", "VertCentred", true);
+             folder.setProperty("Image", "MoxieLook/IconFolder");
+         }},
+        {"MoxieLook/TextItem", 50,
+         [](Card& card)
+         {
+             Window& plain = card.add("MoxieLook/TextItem", "", 10, 10, 180, 20);
+             plain.setText("A text item");
+             Window& red = card.add("MoxieLook/TextItem", "", 200, 10, 180, 20);
+             red.setText("Red and centred");
+             red.setProperty("TextColour", "FFC02020");
+             red.setProperty("TextFormatting", "HorzCentred");
+             Window& sized = card.add("MoxieLook/TextItem", "", 390, 10, 20, 20);
+             sized.setProperty("AutoSized", "True");
+             sized.setText("Sized to its text");
+         }},
+        {"MoxieLook/TextItemEx", 98,
+         [](Card& card)
+         {
+             const char* icons[] = {"IconFolder", "IconDocument", "IconStar", "IconInfo"};
+             const char* texts[] = {"Documents", "Report.txt", "Favourites", "selected"};
+             for (int i = 0; i < 4; ++i)
+             {
+                 Window& item = card.add("MoxieLook/TextItemEx", "", 10, 8 + i * 20.0f, 200, 20);
+                 item.setText(texts[i]);
+                 item.setProperty("Icon", String("MoxieLook/") + icons[i]);
+                 if (i == 3)
+                     item.setProperty("Selected", "True");
+                 if (i == 1)
+                     card.hoverOn(item);
+             }
          }},
     };
     return all;

@@ -13,7 +13,8 @@ const char* MXScrollablePane::VertScrollbarType = "MoxieLook/VerticalScrollbar";
 const char* MXScrollablePane::HorzScrollbarType = "MoxieLook/HorizontalScrollbar";
 
 MXScrollablePane::MXScrollablePane(const String& type, const String& name)
-    : ScrollablePane(type, name), d_background(&lookImage(BackgroundImageName))
+    : RedrawnWhenUncovered<ScrollablePane>(type, name),
+      d_background(&lookImage(BackgroundImageName))
 {
     d_frame.setImages({TopLeftFrameImageName, TopRightFrameImageName, BottomLeftFrameImageName,
                        BottomRightFrameImageName, LeftFrameImageName, TopFrameImageName,

@@ -5,6 +5,7 @@
 
 #include "draw/FramedFill.h"
 #include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 #include "looks/LookRendererFactory.h"
 
@@ -14,7 +15,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class MXScrollablePane : public ScrollablePane
+class MXScrollablePane : public RedrawnWhenUncovered<ScrollablePane>
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/ScrollablePane";

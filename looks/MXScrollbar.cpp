@@ -39,7 +39,7 @@ MXVertScrollbar::MXVertScrollbar(const String& type, const String& name)
 
 MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
                                  const Orientation& orientation)
-    : Scrollbar(type, name), d_orientation(orientation)
+    : RedrawnWhenUncovered<Scrollbar>(type, name), d_orientation(orientation)
 {
     d_frame.setImages({TopLeftFrameImageName, TopRightFrameImageName, BottomLeftFrameImageName,
                        BottomRightFrameImageName, LeftFrameImageName, TopFrameImageName,

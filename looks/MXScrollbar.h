@@ -7,6 +7,7 @@
 
 #include "draw/FramedFill.h"
 #include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 #include "looks/LookRendererFactory.h"
 
@@ -19,7 +20,7 @@ class Thumb;
 
 namespace MoxieLook
 {
-class MXScrollbarBase : public Scrollbar
+class MXScrollbarBase : public RedrawnWhenUncovered<Scrollbar>
 {
 public:
     static constexpr char ImagesetName[] = "MoxieLook";

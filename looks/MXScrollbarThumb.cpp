@@ -29,7 +29,8 @@ MXVertScrollbarThumb::MXVertScrollbarThumb(const String& type, const String& nam
 MXScrollbarThumbBase::MXScrollbarThumbBase(const String& type, const String& name, bool vertical,
                                            const char* gripperImageName,
                                            float minimumLengthWithGripRatio)
-    : Thumb(type, name), d_vertical(vertical), d_gripRatio(minimumLengthWithGripRatio)
+    : RedrawnWhenUncovered<Thumb>(type, name), d_vertical(vertical),
+      d_gripRatio(minimumLengthWithGripRatio)
 {
     d_normalFrame.setImages({NormalTopLeftImageName, NormalTopRightImageName,
                              NormalBottomLeftImageName, NormalBottomRightImageName,

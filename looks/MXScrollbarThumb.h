@@ -6,6 +6,7 @@
 
 #include "draw/FramedFill.h"
 #include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/Thumb.h>
@@ -14,7 +15,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class MXScrollbarThumbBase : public Thumb
+class MXScrollbarThumbBase : public RedrawnWhenUncovered<Thumb>
 {
 public:
     static constexpr char ImagesetName[] = "MoxieLook";

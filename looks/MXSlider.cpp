@@ -13,7 +13,7 @@ namespace MoxieLook
 const char* MXSlider::ThumbType = "MoxieLook/SliderThumb";
 
 MXSlider::MXSlider(const String& type, const String& name)
-    : Slider(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
+    : RedrawnWhenUncovered<Slider>(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
       d_trackMiddle(&lookImage(TrackMiddleImageName)),
       d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName))
 {
@@ -139,7 +139,7 @@ void MXSlider::populateGeometryBuffer()
 }
 
 MXSliderThumb::MXSliderThumb(const String& type, const String& name)
-    : Thumb(type, name), d_normal(&lookImage(NormalImageName)),
+    : RedrawnWhenUncovered<Thumb>(type, name), d_normal(&lookImage(NormalImageName)),
       d_highlight(&lookImage(HighlightImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));

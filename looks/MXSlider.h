@@ -4,6 +4,7 @@
 // the thumb: "SliderThumbNormal", "SliderThumbHover", cursor "MouseEsWeCursor".
 #pragma once
 
+#include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/Slider.h>
@@ -13,7 +14,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class MXSlider : public Slider
+class MXSlider : public RedrawnWhenUncovered<Slider>
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/Slider";
@@ -59,7 +60,7 @@ private:
     const Image* d_tick;
 };
 
-class MXSliderThumb : public Thumb
+class MXSliderThumb : public RedrawnWhenUncovered<Thumb>
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/SliderThumb";

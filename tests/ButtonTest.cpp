@@ -192,3 +192,15 @@ TEST_F(ButtonTest, PropertiesReadBackWhatWasWritten)
     EXPECT_FALSE(button->isPushedImageEnabled());
     EXPECT_STREQ(button->getProperty("PushedImage").c_str(), "");
 }
+
+TEST_F(ButtonTest, AButtonClippedAwayDrawsOnceMovedBackIntoView)
+{
+    Window& holder = moxietest::place("DefaultWindow", 900, 700, 200, 100); // off the display
+    Window& inside = moxietest::place("MoxieLook/Button", 0, 0, 80, 24);
+    holder.addChild(&inside);
+    EXPECT_TRUE(drawnBy(inside).empty());
+
+    // Moving a window does not redraw it in CEGUI 0.8; the look must not stay blank.
+    holder.setPosition(UVector2(cegui_absdim(100), cegui_absdim(100)));
+    EXPECT_EQ(drawnBy(inside).size(), 9u); // fill and frame; it has no text
+}

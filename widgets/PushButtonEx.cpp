@@ -8,7 +8,8 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-PushButtonEx::PushButtonEx(const String& type, const String& name) : PushButton(type, name)
+PushButtonEx::PushButtonEx(const String& type, const String& name)
+    : RedrawnWhenUncovered<PushButton>(type, name)
 {
     addPushButtonExProperties();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "draw/FormattedImage.h"
+#include "draw/RedrawnWhenUncovered.h"
 #include "widgets/ButtonDrawState.h"
 
 #include <CEGUI/widgets/PushButton.h>
@@ -12,7 +13,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class PushButtonEx : public PushButton
+class PushButtonEx : public RedrawnWhenUncovered<PushButton>
 {
 public:
     PushButtonEx(const String& type, const String& name);

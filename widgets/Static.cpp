@@ -9,7 +9,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-Static::Static(const String& type, const String& name) : Window(type, name)
+Static::Static(const String& type, const String& name) : RedrawnWhenUncovered<Window>(type, name)
 {
     const String propertyOrigin("MoxieLook/Static");
     CEGUI_DEFINE_PROPERTY(Static, bool, "FrameEnabled",

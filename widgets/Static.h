@@ -4,6 +4,7 @@
 #pragma once
 
 #include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
 
 #include <CEGUI/Window.h>
 
@@ -11,7 +12,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class Static : public Window
+class Static : public RedrawnWhenUncovered<Window>
 {
 public:
     Static(const String& type, const String& name);

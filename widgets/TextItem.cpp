@@ -8,7 +8,8 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-TextItem::TextItem(const String& type, const String& name) : Window(type, name)
+TextItem::TextItem(const String& type, const String& name)
+    : RedrawnWhenUncovered<Window>(type, name)
 {
     const String propertyOrigin("MoxieLook/TextItem");
     CEGUI_DEFINE_PROPERTY(TextItem, Colour, "TextColour",

@@ -2,6 +2,7 @@
 // horizontal formatting, vertically centred; it can size itself to its text.
 #pragma once
 
+#include "draw/RedrawnWhenUncovered.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Window.h>
@@ -10,7 +11,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class TextItem : public Window
+class TextItem : public RedrawnWhenUncovered<Window>
 {
 public:
     //! Room left of and right of the text, in pixels.
