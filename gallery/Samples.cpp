@@ -2,7 +2,9 @@
 
 #include "Label.h"
 #include "draw/Imagery.h"
+#include "widgets/ButtonEx.h"
 #include "widgets/PushButtonEx.h"
+#include "widgets/StaticImageEx.h"
 #include "widgets/StaticLayout.h"
 #include "widgets/TextItemEx.h"
 
@@ -49,6 +51,7 @@ Window& Card::add(const String& type, const String& caption, float x, float y, f
     window->setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
                     USize(cegui_absdim(width), cegui_absdim(height)));
     d_content.addChild(window);
+    d_windows.push_back(window);
     if (!caption.empty())
     {
         Window* label = WindowManager::getSingleton().createWindow(Label::WidgetTypeName);
@@ -143,6 +146,16 @@ MoxieLook::StaticLayout& layoutSample(Card& card, const char* rule, const String
     return layout;
 }
 
+// An icon at the left and a badge at the top right, as a host decorates its buttons.
+void decorate(MoxieLook::MultiImage& target, bool badge)
+{
+    const ColourRect white(Colour(0xFFFFFFFF));
+    target.AddImage("MoxieLook", "IconStar", 6, 0, 1.0f, MoxieLook::MultiImage::Left, white);
+    if (badge)
+        target.AddImage("MoxieLook", "BadgeRed", -1, 1, 1.0f, MoxieLook::MultiImage::TopRight,
+                        white);
+}
+
 const std::vector<Sample>& samples()
 {
     using State = Card::State;
@@ -220,6 +233,62 @@ const std::vector<Sample>& samples()
          {
              paneWithContent(card, "content larger both ways", 10, 300, 120, 5, 6);
              paneWithContent(card, "taller content only", 330, 270, 120, 2, 6);
+         }},
+        {"MoxieLook/ButtonEx", 112,
+         [](Card& card)
+         {
+             card.states("MoxieLook/ButtonEx", "Button", 110, 30,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
+             for (std::size_t i = 0; i < card.count(); ++i)
+                 if (auto* button = dynamic_cast<MoxieLook::ButtonEx*>(&card.at(i)))
+                     decorate(*button, i == 0 || i == 2);
+             // Drag the button onto the text to try drag-and-drop.
+             Window& target = card.add("MoxieLook/StaticText", "", 150, 62, 150, 30);
+             target.setText("drop here");
+             target.setProperty("HorzFormatting", "HorzCentred");
+             auto& draggable = static_cast<MoxieLook::ButtonEx&>(
+                 card.add("MoxieLook/ButtonEx", "drag me", 10, 62, 110, 30));
+             draggable.setText("Drag me");
+             draggable.SetDragAuthorized(true);
+             draggable.AddDropTarget(&target);
+             target.subscribeEvent(MoxieLook::EventDropped,
+                                   [&target] { target.setText("dropped!"); });
+             draggable.subscribeEvent(MoxieLook::EventDropCancelled,
+                                      [&target] { target.setText("cancelled"); });
+         }},
+        {"MoxieLook/MenuButton", 64,
+         [](Card& card)
+         {
+             card.states("MoxieLook/MenuButton", "Menu", 110, 24,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
+         }},
+        {"MoxieLook/StaticImageEx", 74,
+         [](Card& card)
+         {
+             auto framed = [&](const String& caption, float x,
+                               const char* image) -> MoxieLook::StaticImageEx&
+             {
+                 auto& w = static_cast<MoxieLook::StaticImageEx&>(
+                     card.add("MoxieLook/StaticImageEx", caption, x, 10, 90, 44));
+                 w.setProperty("Image", String("MoxieLook/") + image);
+                 w.setProperty("HorzFormatting", "HorzCentred");
+                 w.setProperty("VertFormatting", "VertCentred");
+                 w.setProperty("FrameEnabled", "True");
+                 w.setProperty("BackgroundEnabled", "True");
+                 return w;
+             };
+             framed("badge", 10, "IconFolder")
+                 .AddImage("MoxieLook", "BadgeRed", -2, 2, 1.0f, MoxieLook::MultiImage::TopRight,
+                           ColourRect(Colour(0xFFFFFFFF)));
+             auto& corners = framed("four corners", 120, "IconDocument");
+             const char* names[] = {"TopLeft", "TopRight", "BottomLeft", "BottomRight"};
+             for (const char* name : names)
+                 corners.AddImage("MoxieLook", "BadgeGreen", 0, 0, 0.8f,
+                                  MoxieLook::MultiImage::alignmentFromName(name),
+                                  ColourRect(Colour(0xFFFFFFFF)));
+             framed("scaled overlay", 230, "IconFolder")
+                 .AddImage("MoxieLook", "IconInfo", 0, 0, 1.5f, MoxieLook::MultiImage::BottomRight,
+                           ColourRect(Colour(0xC0FFFFFF)));
          }},
         {"MoxieLook/StaticLayout", 130,
          [](Card& card)

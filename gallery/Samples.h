@@ -36,6 +36,10 @@ public:
     void states(const CEGUI::String& type, const CEGUI::String& text, float width, float height,
                 std::initializer_list<State> states);
 
+    //! The sample windows added so far, in order (captions excluded).
+    std::size_t count() const { return d_windows.size(); }
+    CEGUI::Window& at(std::size_t index) const { return *d_windows.at(index); }
+
     //! The window the pointer rests on when the card is photographed.
     void hoverOn(CEGUI::Window& window) { d_hoverTarget = &window; }
     CEGUI::Window* hoverTarget() const { return d_hoverTarget; }
@@ -43,6 +47,7 @@ public:
 private:
     CEGUI::Window& d_content;
     CEGUI::Window* d_hoverTarget = nullptr;
+    std::vector<CEGUI::Window*> d_windows;
 };
 
 struct Sample

@@ -7,6 +7,7 @@
 #include "GalleryPage.h"
 #include "Label.h"
 #include "Png.h"
+#include "module/Soundification.h"
 
 #include <CEGUI/CEGUI.h>
 #include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
@@ -257,6 +258,9 @@ int main(int argc, char** argv)
     resources->setDefaultResourceGroup("moxielook");
     WindowFactoryManager::addFactory<TplWindowFactory<gallery::Label>>();
     SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    // A host maps the module's sound names to sounds; the gallery just says them.
+    MoxieLook::MXSoundification::GetInstance().RegisterHook(
+        [](const std::string& name) { std::cout << "sound: " << name << std::endl; });
     gui().setDefaultFont("MoxieLook-10");
     gui().getMouseCursor().setDefaultImage("MoxieLook/MouseArrow");
 
@@ -281,6 +285,7 @@ int main(int argc, char** argv)
     }
 
     System::destroy();
+    MoxieLook::MXSoundification::Destroy();
     OpenGLRenderer::destroy(renderer);
     delete Logger::getSingletonPtr();
     glfwDestroyWindow(window);

@@ -35,6 +35,14 @@ MXStaticImage::MXStaticImage(const String& type, const String& name) : StaticIma
     setBackgroundEnabled(false);
 }
 
+MXStaticImageEx::MXStaticImageEx(const String& type, const String& name) : StaticImageEx(type, name)
+{
+    // Draws exactly as "MoxieLook/StaticImage" until extra images are added.
+    applyTo(*this);
+    setFrameEnabled(false);
+    setBackgroundEnabled(false);
+}
+
 MXTextItemEx::MXTextItemEx(const String& type, const String& name) : TextItemEx(type, name)
 {
     setSelectionBrush(&lookImage(SelectionBrushImageName));

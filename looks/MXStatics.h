@@ -6,6 +6,7 @@
 
 #include "looks/LookFactory.h"
 #include "widgets/StaticImage.h"
+#include "widgets/StaticImageEx.h"
 #include "widgets/StaticLayout.h"
 #include "widgets/StaticText.h"
 #include "widgets/TextItemEx.h"
@@ -58,6 +59,15 @@ public:
     MXStaticImage(const String& type, const String& name);
 };
 
+//! "MoxieLook/StaticImageEx": the static image look, with extra images over the picture.
+class MXStaticImageEx : public StaticImageEx, public StaticFrameImages
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/StaticImageEx";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    MXStaticImageEx(const String& type, const String& name);
+};
+
 //! "MoxieLook/TextItem".
 class MXTextItem : public TextItem
 {
@@ -80,6 +90,7 @@ public:
 using MXStaticLayoutFactory = LookFactory<MXStaticLayout>;
 using MXStaticTextFactory = LookFactory<MXStaticText>;
 using MXStaticImageFactory = LookFactory<MXStaticImage>;
+using MXStaticImageExFactory = LookFactory<MXStaticImageEx>;
 using MXTextItemFactory = LookFactory<MXTextItem>;
 using MXTextItemExFactory = LookFactory<MXTextItemEx>;
 

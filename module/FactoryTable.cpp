@@ -1,6 +1,7 @@
 #include "module/FactoryTable.h"
 
 #include "looks/MXButton.h"
+#include "looks/MXButtonEx.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
 #include "looks/MXScrollbarThumb.h"
@@ -25,7 +26,9 @@ MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
 MXStaticLayoutFactory s_staticLayout;
 MXStaticTextFactory s_staticText;
 MXStaticImageFactory s_staticImage;
+MXStaticImageExFactory s_staticImageEx;
 MXButtonFactory s_button;
+MXButtonExFactory s_buttonEx;
 MXSliderThumbFactory s_sliderThumb;
 MXSliderFactory s_slider;
 MXVertScrollbarThumbFactory s_vertScrollbarThumb;
@@ -35,13 +38,16 @@ MXHorzScrollbarFactory s_horzScrollbar;
 MXScrollablePaneFactory s_scrollablePane;
 MXTextItemFactory s_textItem;
 MXTextItemExFactory s_textItemEx;
+MXMenuButtonFactory s_menuButton;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
     FactoryEntry{MXStaticLayout::WidgetTypeName, &s_staticLayout, nullptr},
     FactoryEntry{MXStaticText::WidgetTypeName, &s_staticText, nullptr},
     FactoryEntry{MXStaticImage::WidgetTypeName, &s_staticImage, nullptr},
+    FactoryEntry{MXStaticImageEx::WidgetTypeName, &s_staticImageEx, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
+    FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
     FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
     FactoryEntry{MXVertScrollbarThumb::WidgetTypeName, &s_vertScrollbarThumb, nullptr},
@@ -51,6 +57,7 @@ const std::array k_table{
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
+    FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},
 };
 } // namespace
 

@@ -57,6 +57,7 @@ void Static::frameChanged()
 {
     notifyScreenAreaChanged();
     performChildWindowLayout(false, true);
+    onFrameChanged();
     invalidate();
 }
 

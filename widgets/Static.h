@@ -42,6 +42,8 @@ protected:
     virtual void drawContent(GeometryBuffer& buffer, const Rectf& inner);
 
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+    //! The area inside the frame moved or changed size.
+    virtual void onFrameChanged() {}
     //! The area inside the frame (the whole window without it), window-local.
     Rectf localInnerRect() const;
 

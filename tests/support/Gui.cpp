@@ -1,5 +1,6 @@
 #include "support/Gui.h"
 
+#include "module/Soundification.h"
 #include "support/RecordingRenderer.h"
 
 #include <CEGUI/DefaultLogger.h>
@@ -18,6 +19,18 @@ namespace
 RecordingRenderer* s_renderer = nullptr;
 CEGUI::Window* s_sheet = nullptr;
 } // namespace
+
+std::vector<std::string>& sounds()
+{
+    static std::vector<std::string> heard;
+    return heard;
+}
+
+void hearSounds()
+{
+    CEGUI::MoxieLook::MXSoundification::GetInstance().RegisterHook([](const std::string& name)
+                                                                   { sounds().push_back(name); });
+}
 
 std::string dataFile(const std::string& name)
 {
@@ -49,11 +62,13 @@ void startGui()
     CEGUI::SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
     // Injected presses come faster than any hand: never let two fold into a double-click.
     context().setMouseButtonMultiClickTimeout(1e-9); // 0 would mean "no limit"
+    hearSounds();
     freshSheet();
 }
 
 void stopGui()
 {
+    CEGUI::MoxieLook::MXSoundification::Destroy();
     CEGUI::System::destroy();
     delete s_renderer;
     s_renderer = nullptr;

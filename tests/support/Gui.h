@@ -5,6 +5,7 @@
 #include <CEGUI/String.h>
 #include <CEGUI/Vector.h>
 #include <string>
+#include <vector>
 
 namespace CEGUI
 {
@@ -31,5 +32,10 @@ void leftDown();
 void leftUp();
 
 std::string dataFile(const std::string& name);
+
+//! Sounds the module asked the host to play, oldest first; the harness's hook fills it.
+std::vector<std::string>& sounds();
+//! (Re)registers the harness's recording hook.
+void hearSounds();
 
 } // namespace moxietest

@@ -57,10 +57,13 @@ void paintButtons(Atlas& atlas)
     addGradient(atlas, "ButtonArrowFill", 4, 16, White, hex(0xF4F6F8));
 
     addRingFrame(atlas, frameNames("ButtonNormal"), 4, 3.5, raised(Border, White, 0.8));
-    addGradient(atlas, "ButtonNormalFill", 4, 24, hex(0xF7F9FC), hex(0xC9D4E2));
+    // The extended button writes black text at rest and white under the pointer on this
+    // same fill: a mid-tone that carries both.
+    addGradient(atlas, "ButtonNormalFill", 4, 24, hex(0x9DB6D8), hex(0x5F7FB0));
     addRingFrame(atlas, frameNames("ButtonPushed"), 4, 3.5,
                  {{AccentDark, AccentDark}, {Ink, Ink, 0.12}});
-    addGradient(atlas, "ButtonPushedFill", 4, 24, PushedTop, PushedBottom);
+    // Pressed, the text is dark grey: the fill lights up.
+    addGradient(atlas, "ButtonPushedFill", 4, 24, hex(0xDCE6F3), hex(0xB9CBE3));
 
     addRingFrame(atlas, frameNames("ButtonScroll"), 3, 2.5, raised(Border, White, 0.8));
     addRingFrame(atlas, frameNames("ButtonScrollFocus"), 3, 2.5, raised(Accent, White, 0.9));
@@ -74,7 +77,7 @@ void paintButtons(Atlas& atlas)
     };
     const MenuState states[] = {{"Normal", FaceTop, FaceBottom, Border},
                                 {"Focus", hex(0x5C95E6), AccentDark, AccentDark},
-                                {"Clicked", AccentDark, hex(0x3D6FC2), hex(0x1E4585)},
+                                {"Clicked", hex(0xD2E0F4), hex(0xA9C2E8), AccentDark},
                                 {"Desactived", DisabledFace, DisabledFace, DisabledBorder}};
     for (const MenuState& state : states)
     {

@@ -1,0 +1,295 @@
+#include "widgets/ButtonEx.h"
+
+#include "draw/Imagery.h"
+#include "draw/TextDrawing.h"
+#include "module/Soundification.h"
+
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/MouseCursor.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+ButtonEx::ButtonEx(const String& type, const String& name) : PushButtonEx(type, name)
+{
+    const String propertyOrigin("MoxieLook/ButtonEx");
+    CEGUI_DEFINE_PROPERTY(ButtonEx, String, "VerticalTextAlignment",
+                          "Property to change the text vertical alignment.",
+                          &ButtonEx::setVerticalAlignmentName, &ButtonEx::getVerticalAlignmentName,
+                          "Middle");
+    addEvent(EventDragStarted);
+    addEvent(EventDropCancelled);
+}
+
+void ButtonEx::initialiseComponents()
+{
+    PushButtonEx::initialiseComponents();
+    d_dragAuthorised = false;
+    d_accumulatedMovement = 0;
+    d_dragging = false;
+    d_mouseHeld = false;
+    d_normalBackground = d_hoverBackground = d_pushedBackground = d_disabledBackground = nullptr;
+    subscribeEvent(EventMouseButtonDown, Event::Subscriber(&ButtonEx::MouseDown, this));
+    subscribeEvent(EventMouseMove, Event::Subscriber(&ButtonEx::MouseMove, this));
+    subscribeEvent(EventMouseButtonUp, Event::Subscriber(&ButtonEx::MouseUp, this));
+}
+
+void ButtonEx::setVerticalAlignmentName(const String& name)
+{
+    SetVerticalTextAlignment(name == "Top" ? VTA_Top : name == "Middle" ? VTA_Middle : VTA_Bottom);
+}
+
+String ButtonEx::getVerticalAlignmentName() const
+{
+    return d_verticalAlignment == VTA_Top      ? "Top"
+           : d_verticalAlignment == VTA_Middle ? "Middle"
+                                               : "Bottom";
+}
+
+void ButtonEx::SetVerticalTextAlignment(VerticalTextAlignment alignment)
+{
+    d_verticalAlignment = alignment;
+    invalidate();
+}
+
+void ButtonEx::SetStandardizedFrame(const std::string& imageset, const std::string& base, int mask)
+{
+    setStandardImageryEnabled(false);
+    FormattedImage image;
+    image.setHorzFormatting(FormattedImage::HorzStretched);
+    image.setVertFormatting(FormattedImage::VertStretched);
+    image.setSize(getPixelSize());
+    setCustomImageryAutoSized(true);
+
+    const struct
+    {
+        int bit;
+        const char* suffix;
+        void (PushButtonEx::*set)(const FormattedImage*);
+    } states[] = {{1, "Normal", &PushButtonEx::setNormalImage},
+                  {2, "Focus", &PushButtonEx::setHoverImage},
+                  {4, "Clicked", &PushButtonEx::setPushedImage},
+                  {8, "Disabled", &PushButtonEx::setDisabledImage}};
+    for (const auto& state : states)
+        if (mask & state.bit)
+        {
+            image.setImage(&ImageManager::getSingleton().get(
+                String((imageset + "/" + base).c_str()) + state.suffix));
+            (this->*state.set)(&image);
+        }
+}
+
+void ButtonEx::RemoveDropTarget(Window* window)
+{
+    window->removeEvent(EventDropped);
+}
+
+Rectf ButtonEx::GetLocalUnclippedInnerRect() const
+{
+    const Rectf all(Vector2f(0, 0), getPixelSize());
+    return isStandardImageryEnabled() ? d_normalFrame.innerRect(all) : all;
+}
+
+Rectf ButtonEx::GetLocalInnerRect() const
+{
+    return GetLocalUnclippedInnerRect();
+}
+
+Rectf ButtonEx::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
+{
+    Rectf inner = GetLocalUnclippedInnerRect();
+    inner.offset((skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
+                                        : getUnclippedOuterRect().get())
+                     .d_min);
+    return inner;
+}
+
+void ButtonEx::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    // Pushed wins even over disabled: a pushed button is drawn pushed.
+    if (isPushed())
+        drawPushed();
+    else if (isHovering())
+        drawHover();
+    else if (!isEffectiveDisabled())
+        drawNormal();
+    else
+        drawDisabled();
+}
+
+void ButtonEx::drawNormal()
+{
+    drawState(d_normalFrame, d_normalBackground, isNormalImageEnabled(), d_normalImage,
+              Colour(0xFFFFFFFF), getNormalTextColour());
+}
+
+void ButtonEx::drawHover()
+{
+    drawState(d_hoverFrame, d_hoverBackground, isHoverImageEnabled(), d_hoverImage,
+              Colour(0xFFFFFFFF), getHoverTextColour());
+}
+
+void ButtonEx::drawPushed()
+{
+    drawState(d_pushedFrame, d_pushedBackground, isPushedImageEnabled(), d_pushedImage,
+              Colour(0xFFFFFFFF), getPushedTextColour());
+}
+
+void ButtonEx::drawDisabled()
+{
+    drawState(d_disabledFrame, d_disabledBackground, isDisabledImageEnabled(), d_disabledImage,
+              d_disabledColour, getDisabledTextColour());
+}
+
+void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool useCustomImage,
+                         FormattedImage& customImage, const Colour& imageryColour,
+                         const Colour& textColour)
+{
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const float alpha = getEffectiveAlpha();
+    const Rectf all(Vector2f(0, 0), getPixelSize());
+    const ColourRect imagery = faded(ColourRect(imageryColour), alpha);
+
+    if (isStandardImageryEnabled())
+    {
+        if (background)
+        {
+            frame.setSize(all.getSize());
+            frame.setColours(imagery);
+            background->render(buffer, frame.innerRect(all), nullptr, imagery);
+            frame.draw(buffer, all.d_min, nullptr);
+            if (useCustomImage)
+            {
+                customImage.setColours(withAlpha(customImage.getColours(), alpha));
+                customImage.draw(buffer, all.d_min, nullptr);
+            }
+        }
+    }
+    else if (useCustomImage && customImage.getImage())
+    {
+        const Rectf inner = GetLocalInnerRect();
+        customImage.setColours(withAlpha(customImage.getColours(), alpha));
+        customImage.draw(buffer, inner.d_min, nullptr);
+    }
+
+    drawImages(buffer, alpha);
+
+    if (getFont())
+    {
+        const VertTextFormat vertical = d_verticalAlignment == VTA_Top ? VertTextFormat::Top
+                                        : d_verticalAlignment == VTA_Middle
+                                            ? VertTextFormat::Centred
+                                            : VertTextFormat::Bottom;
+        drawText(*this, buffer, getRenderedString(), GetLocalInnerRect(), HorzTextFormat::Centred,
+                 vertical, ColourRect(withAlpha(textColour, alpha)), nullptr);
+    }
+}
+
+void ButtonEx::onSized(ElementEventArgs& e)
+{
+    PushButtonEx::onSized(e);
+    // The disabled frame is sized when it is drawn.
+    const Sizef size = getPixelSize();
+    d_hoverFrame.setSize(size);
+    d_normalFrame.setSize(size);
+    d_pushedFrame.setSize(size);
+    MyOnSizedInternal();
+}
+
+void ButtonEx::MyOnSized()
+{
+    ElementEventArgs args(this);
+    onSized(args);
+}
+
+void ButtonEx::setDragging(bool on)
+{
+    d_dragging = on;
+    if (Window* parent = getParent())
+        parent->setMutedState(on);
+    setClippedByParent(!on);
+    setModalState(on);
+}
+
+bool ButtonEx::MouseDown(const EventArgs& args)
+{
+    if (!d_dragAuthorised)
+        return false;
+    const auto& mouse = static_cast<const MouseEventArgs&>(args);
+    d_grabOffset = mouse.position - getUnclippedOuterRect().get().d_min;
+    d_accumulatedMovement = 0;
+    d_mouseHeld = true;
+    return false;
+}
+
+bool ButtonEx::MouseMove(const EventArgs& args)
+{
+    if (!d_dragAuthorised || !d_mouseHeld)
+        return false;
+    const auto& mouse = static_cast<const MouseEventArgs&>(args);
+    if (d_dragging)
+    {
+        // Keep the grab offset under the cursor, whatever the alignment or metrics.
+        const Vector2f delta = mouse.position - d_grabOffset - getUnclippedOuterRect().get().d_min;
+        setPosition(getPosition() + UVector2(cegui_absdim(delta.d_x), cegui_absdim(delta.d_y)));
+        return true;
+    }
+    const float step =
+        mouse.moveDelta.d_x * mouse.moveDelta.d_x + mouse.moveDelta.d_y * mouse.moveDelta.d_y;
+    d_accumulatedMovement += step < 4294967295.0f ? static_cast<std::uint32_t>(step) : 0xFFFFFFFFu;
+    if (d_accumulatedMovement > DragThreshold)
+    {
+        d_positionBeforeDrag = getPosition();
+        setDragging(true);
+        DragEventArgs started(this, nullptr);
+        fireEvent(EventDragStarted, started, "");
+    }
+    return true;
+}
+
+bool ButtonEx::MouseUp(const EventArgs& args)
+{
+    const auto& mouse = static_cast<const MouseEventArgs&>(args);
+    d_mouseHeld = false;
+    d_accumulatedMovement = 0;
+    if (!d_dragging)
+    {
+        if (mouse.button == LeftButton)
+            MXSoundification::GetInstance().PlaySound(this, d_clickSound);
+        return false;
+    }
+
+    setPosition(d_positionBeforeDrag);
+    setDragging(false);
+    Window* target = nullptr;
+    if (Window* root = getGUIContext().getRootWindow())
+        for (Window* w = root->getChildAtPosition(getGUIContext().getMouseCursor().getPosition());
+             w; w = w->getParent())
+            if (d_dropTargets.count(w))
+            {
+                target = w;
+                break;
+            }
+    if (target)
+    {
+        DragEventArgs dropped(this, target);
+        target->fireEvent(EventDropped, dropped, "");
+        MXSoundification::GetInstance().PlaySound(this, d_dropSound);
+    }
+    else
+    {
+        DragEventArgs cancelled(this, nullptr);
+        fireEvent(EventDropCancelled, cancelled, "");
+        MXSoundification::GetInstance().PlaySound(this, d_cancelSound);
+    }
+    setEnabled(true);
+    return true;
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

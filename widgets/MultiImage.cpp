@@ -1,0 +1,147 @@
+#include "widgets/MultiImage.h"
+
+#include <CEGUI/Image.h>
+#include <CEGUI/ImageManager.h>
+#include <algorithm>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+const char* const AlignmentNames[] = {"TopLeft", "Top",        "TopRight", "Left",        "Centre",
+                                      "Right",   "BottomLeft", "Bottom",   "BottomRight", "None"};
+} // namespace
+
+MultiImage::ImageAlignment MultiImage::alignmentFromName(const String& name)
+{
+    if (name == "Center")
+        return Centre;
+    for (int i = 0; i < 10; ++i)
+        if (name == AlignmentNames[i])
+            return static_cast<ImageAlignment>(i);
+    return None;
+}
+
+String MultiImage::nameOf(ImageAlignment alignment)
+{
+    return AlignmentNames[std::clamp(static_cast<int>(alignment), 0, 9)];
+}
+
+Rectf MultiImage::placement(const Rectf& inner, const Sizef& size, int offsetX, int offsetY,
+                            float scale, ImageAlignment alignment)
+{
+    const Sizef scaled(size.d_width * scale, size.d_height * scale);
+    Vector2f at = inner.d_min;
+    if (alignment != None)
+    {
+        const int column = alignment % 3;
+        const int row = alignment / 3;
+        at.d_x += column * (inner.getWidth() - scaled.d_width) * 0.5f;
+        at.d_y += row * (inner.getHeight() - scaled.d_height) * 0.5f;
+    }
+    at.d_x += static_cast<float>(offsetX);
+    at.d_y += static_cast<float>(offsetY);
+    return Rectf(at, scaled);
+}
+
+const Image& MultiImage::imageNamed(const String& imageset, const String& image)
+{
+    return ImageManager::getSingleton().get(imageset + "/" + image);
+}
+
+void MultiImage::AddImage(const Image* image, int offsetX, int offsetY, float scale,
+                          ImageAlignment alignment, const ColourRect& colours)
+{
+    if (!image)
+        return;
+    Entry entry{image, offsetX, offsetY, scale, alignment, colours, true, Rectf()};
+    entry.placed = placement(GetLocalInnerRect(), image->getRenderedSize(), offsetX, offsetY, scale,
+                             alignment);
+    d_entries.push_back(entry);
+    changed();
+}
+
+void MultiImage::AddImage(const String& imageset, const String& image, int offsetX, int offsetY,
+                          float scale, ImageAlignment alignment, const ColourRect& colours)
+{
+    AddImage(&imageNamed(imageset, image), offsetX, offsetY, scale, alignment, colours);
+}
+
+void MultiImage::RemoveImage(const Image* image)
+{
+    d_entries.erase(std::remove_if(d_entries.begin(), d_entries.end(),
+                                   [image](const Entry& e) { return e.image == image; }),
+                    d_entries.end());
+    changed();
+}
+
+void MultiImage::RemoveImage(const String& imageset, const String& image)
+{
+    RemoveImage(&imageNamed(imageset, image));
+}
+
+bool MultiImage::HasImage(const Image* image) const
+{
+    return std::any_of(d_entries.begin(), d_entries.end(),
+                       [image](const Entry& e) { return e.image == image; });
+}
+
+bool MultiImage::HasImage(const String& imageset, const String& image) const
+{
+    return HasImage(&imageNamed(imageset, image));
+}
+
+const Image* MultiImage::GetImage(std::size_t index) const
+{
+    return index < d_entries.size() ? d_entries[index].image : nullptr;
+}
+
+Rectf MultiImage::GetImageRect(std::size_t index) const
+{
+    return index < d_entries.size() ? d_entries[index].placed : Rectf();
+}
+
+void MultiImage::ClearImages()
+{
+    d_entries.clear();
+    changed();
+}
+
+void MultiImage::SetVisibilityImage(const String& imageset, const String& image, bool visible)
+{
+    const Image* wanted = &imageNamed(imageset, image);
+    for (Entry& entry : d_entries)
+        if (entry.image == wanted)
+            entry.visible = visible;
+    changed();
+}
+
+void MultiImage::MyOnSizedInternal()
+{
+    const Rectf inner = GetLocalInnerRect();
+    for (Entry& entry : d_entries)
+        entry.placed = placement(inner, entry.image->getRenderedSize(), entry.offsetX,
+                                 entry.offsetY, entry.scale, entry.alignment);
+    MyRequestRedraw();
+}
+
+void MultiImage::changed()
+{
+    MyRequestRedraw();
+}
+
+void MultiImage::drawImages(GeometryBuffer& buffer, float alpha) const
+{
+    for (const Entry& entry : d_entries)
+        if (entry.visible)
+        {
+            ColourRect colours = entry.colours;
+            colours.modulateAlpha(alpha);
+            entry.image->render(buffer, entry.placed, nullptr, colours);
+        }
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
