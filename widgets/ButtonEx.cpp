@@ -7,7 +7,6 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/Image.h>
 #include <CEGUI/ImageManager.h>
-#include <CEGUI/MouseCursor.h>
 
 namespace CEGUI
 {
@@ -234,9 +233,7 @@ bool ButtonEx::MouseMove(const EventArgs& args)
     const auto& mouse = static_cast<const MouseEventArgs&>(args);
     if (d_dragging)
     {
-        // Keep the grab offset under the cursor, whatever the alignment or metrics.
-        const Vector2f delta = mouse.position - d_grabOffset - getUnclippedOuterRect().get().d_min;
-        setPosition(getPosition() + UVector2(cegui_absdim(delta.d_x), cegui_absdim(delta.d_y)));
+        moveKeepingGrab(*this, mouse.position, d_grabOffset);
         return true;
     }
     const float step =
@@ -266,15 +263,7 @@ bool ButtonEx::MouseUp(const EventArgs& args)
 
     setPosition(d_positionBeforeDrag);
     setDragging(false);
-    Window* target = nullptr;
-    if (Window* root = getGUIContext().getRootWindow())
-        for (Window* w = root->getChildAtPosition(getGUIContext().getMouseCursor().getPosition());
-             w; w = w->getParent())
-            if (d_dropTargets.count(w))
-            {
-                target = w;
-                break;
-            }
+    Window* target = dropTargetUnderCursor(*this, d_dropTargets);
     if (target)
     {
         DragEventArgs dropped(this, target);

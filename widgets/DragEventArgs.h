@@ -3,6 +3,8 @@
 #pragma once
 
 #include <CEGUI/EventArgs.h>
+#include <CEGUI/Vector.h>
+#include <set>
 
 namespace CEGUI
 {
@@ -23,6 +25,15 @@ public:
     Window* source; //!< the window being dragged
     Window* target; //!< the other window involved, or null
 };
+
+//! Moves `dragged` so that the point `grab` from its top-left is at `cursor` (screen
+//! pixels), by the difference on its own position: alignment and a framed parent's client
+//! offset do not matter.
+void moveKeepingGrab(Window& dragged, const Vector2f& cursor, const Vector2f& grab);
+
+//! The first registered target met walking up from the deepest window under the mouse
+//! cursor of `dragged`'s GUI context; null when there is none.
+Window* dropTargetUnderCursor(const Window& dragged, const std::set<Window*>& targets);
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -1,7 +1,6 @@
 #include "widgets/StaticLayout.h"
 
 #include <CEGUI/GUIContext.h>
-#include <CEGUI/MouseCursor.h>
 #include <CEGUI/PropertyHelper.h>
 #include <algorithm>
 #include <cerrno>
@@ -418,10 +417,7 @@ bool StaticLayout::MouseMove(const EventArgs& args)
     const auto& mouse = static_cast<const MouseEventArgs&>(args);
     if (d_dragging)
     {
-        // Move by what keeps the grab offset under the cursor, whatever the alignment.
-        const Vector2f wanted = mouse.position - d_grabOffset;
-        const Vector2f delta = wanted - getUnclippedOuterRect().get().d_min;
-        setPosition(getPosition() + UVector2(cegui_absdim(delta.d_x), cegui_absdim(delta.d_y)));
+        moveKeepingGrab(*this, mouse.position, d_grabOffset);
         return true;
     }
     const float step =
@@ -447,16 +443,7 @@ bool StaticLayout::MouseUp(const EventArgs&)
     setPosition(d_positionBeforeDrag);
     setDragging(false);
 
-    Window* target = nullptr;
-    if (Window* root = getGUIContext().getRootWindow())
-        for (Window* w = root->getChildAtPosition(getGUIContext().getMouseCursor().getPosition());
-             w; w = w->getParent())
-            if (d_dropTargets.count(w))
-            {
-                target = w;
-                break;
-            }
-
+    Window* target = dropTargetUnderCursor(*this, d_dropTargets);
     if (target)
     {
         DragEventArgs dropped(this, target);
