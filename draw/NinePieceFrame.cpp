@@ -87,5 +87,17 @@ void NinePieceFrame::drawPiece(GeometryBuffer& buffer, Piece piece, const Rectf&
                                   std::clamp(top, 0.0f, 1.0f), std::clamp(bottom, 0.0f, 1.0f)));
 }
 
+void sizeFrames(std::initializer_list<NinePieceFrame*> frames, const Sizef& size)
+{
+    for (NinePieceFrame* frame : frames)
+        frame->setSize(size);
+}
+
+void fadeFrames(std::initializer_list<NinePieceFrame*> frames, float alpha)
+{
+    for (NinePieceFrame* frame : frames)
+        frame->setColours(withAlpha(frame->getColours(), alpha));
+}
+
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -5,6 +5,7 @@
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Rect.h>
 #include <array>
+#include <initializer_list>
 
 namespace CEGUI
 {
@@ -61,6 +62,11 @@ private:
     Sizef d_size{0.0f, 0.0f};
     ColourRect d_colours{Colour(1.0f, 1.0f, 1.0f, 1.0f)};
 };
+
+//! A look's state frames all follow the window's size...
+void sizeFrames(std::initializer_list<NinePieceFrame*> frames, const Sizef& size);
+//! ...and its alpha, keeping each frame's own colours.
+void fadeFrames(std::initializer_list<NinePieceFrame*> frames, float alpha);
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -107,19 +107,14 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
 void MXButton::onSized(ElementEventArgs& e)
 {
     PushButtonEx::onSized(e);
-    const Sizef size = getPixelSize();
-    d_normalFrame.setSize(size);
-    d_hoverFrame.setSize(size);
-    d_pushedFrame.setSize(size);
+    sizeFrames({&d_normalFrame, &d_hoverFrame, &d_pushedFrame}, getPixelSize());
     ++e.handled;
 }
 
 void MXButton::onAlphaChanged(WindowEventArgs& e)
 {
     PushButtonEx::onAlphaChanged(e);
-    const float alpha = getEffectiveAlpha();
-    for (NinePieceFrame* frame : {&d_normalFrame, &d_hoverFrame, &d_pushedFrame})
-        frame->setColours(withAlpha(frame->getColours(), alpha));
+    fadeFrames({&d_normalFrame, &d_hoverFrame, &d_pushedFrame}, getEffectiveAlpha());
 }
 
 } // namespace MoxieLook

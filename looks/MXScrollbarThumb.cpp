@@ -112,19 +112,14 @@ void MXScrollbarThumbBase::drawState(const Colour& primary, const Colour& second
 void MXScrollbarThumbBase::onSized(ElementEventArgs& e)
 {
     Thumb::onSized(e);
-    const Sizef size = getPixelSize();
-    d_normalFrame.setSize(size);
-    d_hoverFrame.setSize(size);
-    d_pushedFrame.setSize(size);
+    sizeFrames({&d_normalFrame, &d_hoverFrame, &d_pushedFrame}, getPixelSize());
     ++e.handled;
 }
 
 void MXScrollbarThumbBase::onAlphaChanged(WindowEventArgs& e)
 {
     Thumb::onAlphaChanged(e);
-    const float alpha = getEffectiveAlpha();
-    for (NinePieceFrame* frame : {&d_normalFrame, &d_hoverFrame, &d_pushedFrame})
-        frame->setColours(withAlpha(frame->getColours(), alpha));
+    fadeFrames({&d_normalFrame, &d_hoverFrame, &d_pushedFrame}, getEffectiveAlpha());
 }
 
 } // namespace MoxieLook

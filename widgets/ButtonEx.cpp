@@ -193,10 +193,7 @@ void ButtonEx::onSized(ElementEventArgs& e)
 {
     PushButtonEx::onSized(e);
     // The disabled frame is sized when it is drawn.
-    const Sizef size = getPixelSize();
-    d_hoverFrame.setSize(size);
-    d_normalFrame.setSize(size);
-    d_pushedFrame.setSize(size);
+    sizeFrames({&d_hoverFrame, &d_normalFrame, &d_pushedFrame}, getPixelSize());
     MyOnSizedInternal();
 }
 
@@ -236,9 +233,7 @@ bool ButtonEx::MouseMove(const EventArgs& args)
         moveKeepingGrab(*this, mouse.position, d_grabOffset);
         return true;
     }
-    const float step =
-        mouse.moveDelta.d_x * mouse.moveDelta.d_x + mouse.moveDelta.d_y * mouse.moveDelta.d_y;
-    d_accumulatedMovement += step < 4294967295.0f ? static_cast<std::uint32_t>(step) : 0xFFFFFFFFu;
+    d_accumulatedMovement += squaredStep(mouse);
     if (d_accumulatedMovement > DragThreshold)
     {
         d_positionBeforeDrag = getPosition();

@@ -1,6 +1,7 @@
 #include "widgets/DragEventArgs.h"
 
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/InputEvent.h>
 #include <CEGUI/MouseCursor.h>
 #include <CEGUI/Window.h>
 
@@ -8,6 +9,14 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+std::uint32_t squaredStep(const MouseEventArgs& mouse)
+{
+    const float step =
+        mouse.moveDelta.d_x * mouse.moveDelta.d_x + mouse.moveDelta.d_y * mouse.moveDelta.d_y;
+    // Beyond what 32 bits hold the threshold is long passed: saturate, never overflow.
+    return step < 4294967295.0f ? static_cast<std::uint32_t>(step) : 0xFFFFFFFFu;
+}
+
 void moveKeepingGrab(Window& dragged, const Vector2f& cursor, const Vector2f& grab)
 {
     const Vector2f delta = cursor - grab - dragged.getUnclippedOuterRect().get().d_min;

@@ -4,10 +4,12 @@
 
 #include <CEGUI/EventArgs.h>
 #include <CEGUI/Vector.h>
+#include <cstdint>
 #include <set>
 
 namespace CEGUI
 {
+class MouseEventArgs;
 class Window;
 
 namespace MoxieLook
@@ -25,6 +27,10 @@ public:
     Window* source; //!< the window being dragged
     Window* target; //!< the other window involved, or null
 };
+
+//! The squared length of the pointer's step, truncated toward zero to unsigned 32 bits:
+//! drags start when these steps, summed, pass a threshold.
+std::uint32_t squaredStep(const MouseEventArgs& mouse);
 
 //! Moves `dragged` so that the point `grab` from its top-left is at `cursor` (screen
 //! pixels), by the difference on its own position: alignment and a framed parent's client

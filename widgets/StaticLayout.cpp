@@ -420,9 +420,7 @@ bool StaticLayout::MouseMove(const EventArgs& args)
         moveKeepingGrab(*this, mouse.position, d_grabOffset);
         return true;
     }
-    const float step =
-        mouse.moveDelta.d_x * mouse.moveDelta.d_x + mouse.moveDelta.d_y * mouse.moveDelta.d_y;
-    d_accumulatedMovement += truncated(step);
+    d_accumulatedMovement += squaredStep(mouse);
     if (d_accumulatedMovement > muiSquaredThreshold)
     {
         d_positionBeforeDrag = getPosition();
