@@ -17,21 +17,40 @@ const Colour MXMenuButton::HoverTextColour(1, 1, 1, 1);
 const Colour MXMenuButton::PushedTextColour(0.25f, 0.25f, 0.25f, 1);
 const Colour MXMenuButton::DisabledBackgroundColour(0, 0, 0, 0.3f);
 
+MXButtonEx::MXButtonEx(const String& type, const String& name) : ButtonEx(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
+MXMenuButton::MXMenuButton(const String& type, const String& name) : ButtonEx(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
 void MXButtonEx::initialiseComponents()
 {
     ButtonEx::initialiseComponents();
-    NinePieceFrame normal;
-    normal.setImages({NormalTopLeftImageName, NormalTopRightImageName, NormalBottomLeftImageName,
-                      NormalBottomRightImageName, NormalLeftImageName, NormalTopImageName,
-                      NormalRightImageName, NormalBottomImageName});
-    NinePieceFrame pushed;
-    pushed.setImages({PushedTopLeftImageName, PushedTopRightImageName, PushedBottomLeftImageName,
-                      PushedBottomRightImageName, PushedLeftImageName, PushedTopImageName,
-                      PushedRightImageName, PushedBottomImageName});
-    SetNormalFrame(normal);
-    SetHoverFrame(normal);
-    SetPushedFrame(pushed);
-    SetDisabledFrame(normal);
+    auto frame = [](const std::array<const char*, NinePieceFrame::PieceCount>& names)
+    {
+        NinePieceFrame built;
+        built.setImages(names);
+        return built;
+    };
+    SetNormalFrame(
+        frame({NormalTopLeftImageName, NormalTopRightImageName, NormalBottomLeftImageName,
+               NormalBottomRightImageName, NormalLeftImageName, NormalTopImageName,
+               NormalRightImageName, NormalBottomImageName}));
+    SetHoverFrame(frame({HoverTopLeftImageName, HoverTopRightImageName, HoverBottomLeftImageName,
+                         HoverBottomRightImageName, HoverLeftImageName, HoverTopImageName,
+                         HoverRightImageName, HoverBottomImageName}));
+    SetPushedFrame(
+        frame({PushedTopLeftImageName, PushedTopRightImageName, PushedBottomLeftImageName,
+               PushedBottomRightImageName, PushedLeftImageName, PushedTopImageName,
+               PushedRightImageName, PushedBottomImageName}));
+    SetDisabledFrame(
+        frame({DisabledTopLeftImageName, DisabledTopRightImageName, DisabledBottomLeftImageName,
+               DisabledBottomRightImageName, DisabledLeftImageName, DisabledTopImageName,
+               DisabledRightImageName, DisabledBottomImageName}));
     SetNormalBackground(&lookImage(NormalFillImageName));
     SetHoverBackground(&lookImage(HoverFillImageName));
     SetPushedBackground(&lookImage(PushedFillImageName));

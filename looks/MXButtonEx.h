@@ -17,6 +17,7 @@ class MXButtonEx : public ButtonEx
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/ButtonEx";
     static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
 
     static constexpr char NormalTopLeftImageName[] = "ButtonNormalTopLeft";
     static constexpr char NormalTopImageName[] = "ButtonNormalTop";
@@ -26,6 +27,14 @@ public:
     static constexpr char NormalBottomLeftImageName[] = "ButtonNormalBottomLeft";
     static constexpr char NormalBottomImageName[] = "ButtonNormalBottom";
     static constexpr char NormalBottomRightImageName[] = "ButtonNormalBottomRight";
+    static constexpr char HoverTopLeftImageName[] = "ButtonNormalTopLeft";
+    static constexpr char HoverTopImageName[] = "ButtonNormalTop";
+    static constexpr char HoverTopRightImageName[] = "ButtonNormalTopRight";
+    static constexpr char HoverLeftImageName[] = "ButtonNormalLeft";
+    static constexpr char HoverRightImageName[] = "ButtonNormalRight";
+    static constexpr char HoverBottomLeftImageName[] = "ButtonNormalBottomLeft";
+    static constexpr char HoverBottomImageName[] = "ButtonNormalBottom";
+    static constexpr char HoverBottomRightImageName[] = "ButtonNormalBottomRight";
     static constexpr char PushedTopLeftImageName[] = "ButtonPushedTopLeft";
     static constexpr char PushedTopImageName[] = "ButtonPushedTop";
     static constexpr char PushedTopRightImageName[] = "ButtonPushedTopRight";
@@ -34,6 +43,14 @@ public:
     static constexpr char PushedBottomLeftImageName[] = "ButtonPushedBottomLeft";
     static constexpr char PushedBottomImageName[] = "ButtonPushedBottom";
     static constexpr char PushedBottomRightImageName[] = "ButtonPushedBottomRight";
+    static constexpr char DisabledTopLeftImageName[] = "ButtonNormalTopLeft";
+    static constexpr char DisabledTopImageName[] = "ButtonNormalTop";
+    static constexpr char DisabledTopRightImageName[] = "ButtonNormalTopRight";
+    static constexpr char DisabledLeftImageName[] = "ButtonNormalLeft";
+    static constexpr char DisabledRightImageName[] = "ButtonNormalRight";
+    static constexpr char DisabledBottomLeftImageName[] = "ButtonNormalBottomLeft";
+    static constexpr char DisabledBottomImageName[] = "ButtonNormalBottom";
+    static constexpr char DisabledBottomRightImageName[] = "ButtonNormalBottomRight";
     static constexpr char NormalFillImageName[] = "ButtonNormalFill";
     static constexpr char HoverFillImageName[] = "ButtonNormalFill";
     static constexpr char PushedFillImageName[] = "ButtonPushedFill";
@@ -45,7 +62,7 @@ public:
     static const Colour DisabledTextColour;
     static const Colour DisabledBackgroundColour;
 
-    MXButtonEx(const String& type, const String& name) : ButtonEx(type, name) {}
+    MXButtonEx(const String& type, const String& name);
     void initialiseComponents() override;
 };
 
@@ -54,6 +71,7 @@ class MXMenuButton : public ButtonEx
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/MenuButton";
     static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
 
     static constexpr char NormalLeftImageName[] = "ButtonMenuNormalLeft";
     static constexpr char NormalRightImageName[] = "ButtonMenuNormalRight";
@@ -73,7 +91,7 @@ public:
     static const Colour PushedTextColour;
     static const Colour DisabledBackgroundColour;
 
-    MXMenuButton(const String& type, const String& name) : ButtonEx(type, name) {}
+    MXMenuButton(const String& type, const String& name);
     void initialiseComponents() override;
 };
 

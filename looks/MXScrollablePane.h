@@ -48,7 +48,7 @@ public:
     void setBackgroundEnabled(bool enabled);
 
     // What CEGUI's ScrollablePane asks its renderer for (window-local pixels).
-    Rectf viewableArea() const;
+    virtual Rectf viewableArea() const;
     void populateGeometryBuffer() override;
 
 private:

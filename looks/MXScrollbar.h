@@ -39,10 +39,10 @@ public:
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;
 
-    // What CEGUI's Scrollbar asks its renderer for.
-    void updateThumb();
-    float getValueFromThumb() const;
-    float getAdjustDirectionFromPoint(const Vector2f& point) const;
+    // What CEGUI's Scrollbar asks its renderer for; virtual, so a host's look can change it.
+    virtual void updateThumb();
+    virtual float getValueFromThumb() const;
+    virtual float getAdjustDirectionFromPoint(const Vector2f& point) const;
     void populateGeometryBuffer() override;
 
     const NinePieceFrame& getFrame() const { return d_frame; }

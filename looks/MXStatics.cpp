@@ -13,6 +13,12 @@ void StaticFrameImages::applyTo(Static& target)
                           &lookImage(LeftImage), &lookImage(TopImage), &lookImage(RightImage),
                           &lookImage(BottomImage));
     target.setBackgroundImage(&lookImage(BackgroundImage));
+    setCursorOf(target);
+}
+
+void StaticFrameImages::setCursorOf(Window& target)
+{
+    target.setMouseCursor(&lookImage(MouseCursorImageName));
 }
 
 void MXStaticLayout::initialiseComponents()
@@ -43,8 +49,14 @@ MXStaticImageEx::MXStaticImageEx(const String& type, const String& name) : Stati
     setBackgroundEnabled(false);
 }
 
+MXTextItem::MXTextItem(const String& type, const String& name) : TextItem(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
 MXTextItemEx::MXTextItemEx(const String& type, const String& name) : TextItemEx(type, name)
 {
+    setMouseCursor(&lookImage(MouseCursorImageName));
     setSelectionBrush(&lookImage(SelectionBrushImageName));
     setHoverBrush(&lookImage(HoverBrushImageName));
 }

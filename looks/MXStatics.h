@@ -27,9 +27,13 @@ struct StaticFrameImages
     static constexpr char BottomImage[] = "StaticFrameBottom";
     static constexpr char BottomRightImage[] = "StaticFrameBottomRight";
     static constexpr char BackgroundImage[] = "StaticFrameFill";
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
 
     //! Gives `target` the frame images and the background image (states unchanged).
     static void applyTo(Static& target);
+    //! The pointer over a static look.
+    static void setCursorOf(Window& target);
 };
 
 //! "MoxieLook/StaticLayout": framed, with the fill image set but not drawn.
@@ -46,7 +50,6 @@ class MXStaticText : public StaticText, public StaticFrameImages
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/StaticText";
-    static constexpr char ImagesetName[] = "MoxieLook";
     MXStaticText(const String& type, const String& name);
 };
 
@@ -55,7 +58,6 @@ class MXStaticImage : public StaticImage, public StaticFrameImages
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/StaticImage";
-    static constexpr char ImagesetName[] = "MoxieLook";
     MXStaticImage(const String& type, const String& name);
 };
 
@@ -64,7 +66,6 @@ class MXStaticImageEx : public StaticImageEx, public StaticFrameImages
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/StaticImageEx";
-    static constexpr char ImagesetName[] = "MoxieLook";
     MXStaticImageEx(const String& type, const String& name);
 };
 
@@ -73,7 +74,9 @@ class MXTextItem : public TextItem
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/TextItem";
-    MXTextItem(const String& type, const String& name) : TextItem(type, name) {}
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
+    MXTextItem(const String& type, const String& name);
 };
 
 //! "MoxieLook/TextItemEx".
@@ -82,6 +85,7 @@ class MXTextItemEx : public TextItemEx
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/TextItemEx";
     static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
     static constexpr char SelectionBrushImageName[] = "ListboxSelectionBrush";
     static constexpr char HoverBrushImageName[] = "ListboxHoverBrush";
     MXTextItemEx(const String& type, const String& name);

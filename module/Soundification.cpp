@@ -1,6 +1,5 @@
 #include "module/Soundification.h"
 
-#include <CEGUI/Exceptions.h>
 #include <CEGUI/Window.h>
 
 namespace CEGUI
@@ -24,14 +23,9 @@ void MXSoundification::Destroy()
 
 void MXSoundification::PlaySound(Window* window, const std::string& soundName)
 {
-    if (!window->isEffectiveVisible())
+    // A host that plays no sounds registers no hook: widgets then stay silent.
+    if (!window->isEffectiveVisible() || !d_hook)
         return;
-    if (!d_hook)
-        throw InvalidRequestException("MXSoundification::PlaySound - no sound hook is registered "
-                                      "to play '" +
-                                      String(soundName.c_str()) +
-                                      "'; call MXSoundification::GetInstance().RegisterHook "
-                                      "first.");
     d_hook(soundName);
 }
 

@@ -24,9 +24,8 @@ public:
     static void Destroy();
 
     void RegisterHook(Hook hook) { d_hook = hook; }
-    //! Calls the hook when `window` is visible through all its parents. A host must
-    //! register a hook before any widget plays a sound: without one this throws CEGUI's
-    //! InvalidRequestException.
+    //! Calls the hook when `window` is visible through all its parents; without a hook
+    //! (or with a null one) nothing happens.
     void PlaySound(Window* window, const std::string& soundName);
 
     MXSoundification& operator=(const MXSoundification& other) = default;

@@ -7,6 +7,7 @@
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/ImageManager.h>
 #include <gtest/gtest.h>
+#include <string_view>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -222,12 +223,16 @@ TEST_F(ButtonExTest, SoundsNeedAVisibleWindowAndARegisteredHook)
     sound.PlaySound(&inside, "clic");
     EXPECT_EQ(sounds(), std::vector<std::string>{"clic"});
 
-    // A fresh instance has no hook: playing is refused clearly, not called through null.
+    // A fresh instance has no hook: a host that plays no sounds still gets its clicks.
+    sounds().clear();
     MXSoundification::Destroy();
     MXSoundification& fresh = MXSoundification::GetInstance();
-    EXPECT_THROW(fresh.PlaySound(&inside, "clic"), InvalidRequestException);
-    parent.hide();
-    EXPECT_NO_THROW(fresh.PlaySound(&inside, "clic")); // visibility is tested first
+    EXPECT_NO_THROW(fresh.PlaySound(&inside, "clic"));
+    fresh.RegisterHook(nullptr);
+    moxietest::pointerTo(50, 20);
+    EXPECT_NO_THROW(moxietest::leftDown());
+    EXPECT_NO_THROW(moxietest::leftUp());
+    EXPECT_TRUE(sounds().empty());
     moxietest::hearSounds();
 }
 
@@ -291,4 +296,78 @@ TEST(MultiImage, AlignmentNamesAndPlacement)
               Rectf(81, 17, 113, 49));
     EXPECT_EQ(MultiImage::placement(inner, Sizef(16, 16), 5, 6, 1, MultiImage::None),
               Rectf(15, 16, 31, 32));
+}
+
+TEST_F(ButtonExTest, InnerRectanglesAreLocalAndExtraImagesStayPutWhenClipped)
+{
+    // A parent at (100, 50) showing only the left 40 pixels of the button.
+    Window& parent = moxietest::place("DefaultWindow", 100, 50, 40, 100);
+    auto& clipped = static_cast<ButtonEx&>(moxietest::place("MoxieLook/ButtonEx", 0, 0, 100, 30));
+    parent.addChild(&clipped);
+    clipped.AddImage("MoxieLook", "BadgeRed", 0, 0, 1.0f, MultiImage::Left,
+                     ColourRect(Colour(0xFFFFFFFF)));
+    const Rectf placed = clipped.GetImageRect(0);
+
+    EXPECT_EQ(clipped.GetLocalUnclippedInnerRect(), Rectf(2, 2, 98, 28));
+    EXPECT_EQ(clipped.GetLocalInnerRect(), Rectf(2, 2, 40, 28));
+    EXPECT_EQ(static_cast<MultiImage&>(clipped).MyGetInnerRect(), clipped.getInnerRectClipper());
+    clipped.setSize(USize(cegui_absdim(100), cegui_absdim(30))); // placed again: same place
+    EXPECT_EQ(clipped.GetImageRect(0), placed);
+    EXPECT_EQ(placed, Rectf(2, 10, 12, 20));
+
+    auto& image =
+        static_cast<StaticImageEx&>(moxietest::place("MoxieLook/StaticImageEx", 0, 0, 80, 40));
+    parent.addChild(&image);
+    image.setProperty("FrameEnabled", "True");
+    EXPECT_EQ(image.GetLocalUnclippedInnerRect(), Rectf(2, 2, 78, 38));
+    EXPECT_EQ(image.GetLocalInnerRect(), Rectf(2, 2, 40, 38));
+    EXPECT_EQ(static_cast<MultiImage&>(image).MyGetInnerRect(), image.getInnerRectClipper());
+}
+
+TEST_F(ButtonExTest, LooksPublishTheirVocabularyAndSetTheArrowCursor)
+{
+    static_assert(std::string_view(MXButtonEx::HoverTopLeftImageName) == "ButtonNormalTopLeft");
+    static_assert(std::string_view(MXButtonEx::DisabledBottomRightImageName) ==
+                  "ButtonNormalBottomRight");
+    static_assert(std::string_view(MXStaticLayout::ImagesetName) == "MoxieLook");
+    const Image* arrow = &ImageManager::getSingleton().get("MoxieLook/MouseArrow");
+    for (const char* type : {"MoxieLook/ButtonEx", "MoxieLook/MenuButton", "MoxieLook/StaticText",
+                             "MoxieLook/StaticLayout", "MoxieLook/TextItem"})
+        EXPECT_EQ(moxietest::place(type, 0, 0, 10, 10).getMouseCursor(), arrow) << type;
+
+    Property* alignment = button->getPropertyInstance("VerticalTextAlignment");
+    EXPECT_NE(dynamic_cast<ButtonExProperties::VerticalTextAlignmentProperty*>(alignment), nullptr);
+    EXPECT_EQ(alignment->getDefault(button), "Middle");
+}
+
+TEST_F(ButtonExTest, StandardizedFrameTurnsStandardImageryOffAndSetsMaskedStates)
+{
+    button->SetStandardizedFrame("MoxieLook", "ToolButton", 1 | 4);
+    EXPECT_FALSE(button->isStandardImageryEnabled());
+    EXPECT_TRUE(button->isNormalImageEnabled());
+    EXPECT_FALSE(button->isHoverImageEnabled());
+    EXPECT_TRUE(button->isPushedImageEnabled());
+    EXPECT_FALSE(button->isDisabledImageEnabled());
+    auto quads = drawnBy(*button);
+    EXPECT_EQ(imageNames(quads), (std::vector<std::string>{"ToolButtonNormal", "text"}));
+    EXPECT_EQ(quads[0].rect, Rectf(0, 0, 100, 30)); // stretched over the whole button
+
+    button->SetStandardizedFrame("MoxieLook", "ToolButton", 2 | 8);
+    EXPECT_EQ(button->getHoverImage().getImage()->getName(), "MoxieLook/ToolButtonFocus");
+    EXPECT_EQ(button->getDisabledImage().getImage()->getName(), "MoxieLook/ToolButtonDisabled");
+    EXPECT_EQ(button->getPushedImage().getImage()->getName(), "MoxieLook/ToolButtonClicked");
+    EXPECT_THROW(button->SetStandardizedFrame("MoxieLook", "NoSuchFrame", 1),
+                 UnknownObjectException);
+}
+
+TEST_F(ButtonExTest, ADragEndsWithoutAClick)
+{
+    button->SetDragAuthorized(true);
+    moxietest::pointerTo(20, 20);
+    moxietest::leftDown();
+    moxietest::pointerTo(40, 20);
+    ASSERT_TRUE(button->IsDragging());
+    moxietest::pointerTo(300, 300);
+    moxietest::leftUp();
+    EXPECT_EQ(sounds(), std::vector<std::string>{"meup"});
 }

@@ -5,6 +5,7 @@
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 
+#include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/ScrollablePane.h>
 #include <CEGUI/widgets/Thumb.h>
@@ -276,4 +277,57 @@ TEST(ScrollablePane, ShowsBarsOnlyWhenTheContentNeedsThemAndScrollsIt)
     EXPECT_EQ(names.front(), "StaticFrameFill");
     pane.setProperty("FrameEnabled", "False");
     EXPECT_EQ(pane.getViewableArea(), Rectf(0, 0, 182, 100));
+}
+
+TEST(Scrollbar, ArrowButtonsShowTheirArrowCentredAndStayOnTop)
+{
+    moxietest::freshSheet();
+    Scrollbar& horz = bar("MoxieLook/HorizontalScrollbar", 10, 10, 200, 18, 100, 20, 40);
+    Scrollbar& vert = bar("MoxieLook/VerticalScrollbar", 300, 10, 18, 200, 100, 20, 40);
+    const std::pair<PushButton*, const char*> buttons[] = {
+        {horz.getDecreaseButton(), "LargeLeftArrow"},
+        {horz.getIncreaseButton(), "LargeRightArrow"},
+        {vert.getDecreaseButton(), "LargeUpArrow"},
+        {vert.getIncreaseButton(), "LargeDownArrow"}};
+    for (const auto& [button, arrow] : buttons)
+    {
+        EXPECT_TRUE(button->isAlwaysOnTop());
+        const std::vector<moxietest::DrawnQuad> quads = drawnBy(*button);
+        ASSERT_TRUE(contains(imageNames(quads), arrow)) << arrow;
+        const auto at =
+            std::find_if(quads.begin(), quads.end(),
+                         [&](const moxietest::DrawnQuad& q) { return q.image == arrow; });
+        // A 16-pixel arrow centred on a 14-pixel button.
+        EXPECT_EQ(at->rect, Rectf(-1, -1, 15, 15)) << arrow;
+    }
+}
+
+namespace
+{
+// A host's bar whose track clicks go the other way: the renderer must call the override.
+class ReversedBar : public MXHorzScrollbar
+{
+public:
+    static constexpr char WidgetTypeName[] = "Host/ReversedBar";
+    using MXHorzScrollbar::MXHorzScrollbar;
+    float getAdjustDirectionFromPoint(const Vector2f& point) const override
+    {
+        return -MXHorzScrollbar::getAdjustDirectionFromPoint(point);
+    }
+};
+} // namespace
+
+TEST(Scrollbar, AHostSubclassOverridesWhatTheRendererAsks)
+{
+    moxietest::freshSheet();
+    LookFactory<ReversedBar> factory;
+    WindowFactoryManager::getSingleton().addFactory(&factory);
+    Scrollbar& reversed = bar("Host/ReversedBar", 10, 10, 200, 18, 100, 20, 40);
+    const Rectf thumb = reversed.getThumb()->getUnclippedOuterRect().get();
+    moxietest::pointerTo(thumb.right() + 20, 19);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_FLOAT_EQ(reversed.getScrollPosition(), 20);
+    moxietest::freshSheet();
+    WindowFactoryManager::getSingleton().removeFactory("Host/ReversedBar");
 }

@@ -2,6 +2,7 @@
 #include "support/Gui.h"
 
 #include <CEGUI/WindowManager.h>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -135,7 +136,8 @@ TEST_F(StaticLayoutTest, GridSizeTextsAreReadByCharacterPositions)
 TEST_F(StaticLayoutTest, BorderRegionsAndTheMissingBorderError)
 {
     StaticLayout& l = layout(200, 100, "BorderLayout", 3);
-    Window* stray = WindowManager::getSingleton().createWindow("MoxieLook/Button", "stray");
+    l.setName("box");
+    Window* stray = WindowManager::getSingleton().createWindow("MoxieLook/Button", "orphan");
     try
     {
         l.addChild(stray);
@@ -144,8 +146,7 @@ TEST_F(StaticLayoutTest, BorderRegionsAndTheMissingBorderError)
     catch (const StaticLayout::LayoutException& e)
     {
         EXPECT_EQ(e.getMessage(),
-                  "BorderLayout error : trying to add stray  in BorderLayout without specified "
-                  "border");
+                  "BorderLayout error : trying to add orphan  in box without specified border");
     }
     EXPECT_EQ(l.getChildCount(), 0u);
     WindowManager::getSingleton().destroyWindow(stray);
@@ -198,10 +199,110 @@ TEST_F(StaticLayoutTest, PropertiesAreWriteOnlyAndUnknownTextsFallBack)
     l.setProperty("Border", "northborder");
     EXPECT_EQ(l.GetCurrentBorder(), StaticLayout::WestBorder);
 
-    // Every rule on an empty layout does nothing, and does not fail.
+    // Every rule on an empty layout does nothing, and does not fail; the default rule
+    // leaves children where the host put them.
+    const URect area = l.getArea();
     for (const char* rule :
          {"DefaultLayout", "FlowLayout", "FillLayout", "GridLayout", "BorderLayout"})
+    {
         EXPECT_NO_THROW(l.setProperty("Layout", rule));
+        EXPECT_EQ(l.getChildCount(), 0u);
+        EXPECT_EQ(l.getArea(), area);
+    }
+    l.setProperty("Layout", "DefaultLayout");
+    Window& kept = child(l, 20, 10);
+    kept.setPosition(UVector2(cegui_absdim(33), cegui_absdim(44)));
+    l.DoLayout();
+    l.setSize(USize(cegui_absdim(150), cegui_absdim(90)));
+    EXPECT_EQ(at(kept), Rectf(33, 44, 53, 54));
+}
+
+TEST_F(StaticLayoutTest, FlowOnlyMovesChildrenAndTheirOwnSizesFollowTheLayout)
+{
+    StaticLayout& l = layout(200, 100, "FlowLayout", 0);
+    Window& quarter = child(l, 10, 20);
+    quarter.setWidth(cegui_reldim(0.25f));
+    l.DoLayout();
+    EXPECT_EQ(at(quarter), Rectf(0, 0, 50, 20));
+    l.setSize(USize(cegui_absdim(400), cegui_absdim(100)));
+    EXPECT_EQ(at(quarter), Rectf(0, 0, 100, 20));
+    EXPECT_EQ(quarter.getWidth(), cegui_reldim(0.25f));
+}
+
+TEST_F(StaticLayoutTest, FlowRightCountsAWrappedChildInThePreviousRow)
+{
+    StaticLayout& l = layout(100, 200, "FlowLayout", 0);
+    l.SetFlowLayoutHorizontalAlignment(HA_RIGHT);
+    Window& a = child(l, 60, 10);
+    Window& tall = child(l, 60, 50); // wraps: its 50 went into the first row's height
+    Window& c = child(l, 30, 10);
+    Window& d = child(l, 80, 10);
+    EXPECT_EQ(at(a), Rectf(40, 0, 100, 10));
+    EXPECT_EQ(at(tall), Rectf(100, 50, 160, 100));
+    EXPECT_EQ(at(c), Rectf(70, 50, 100, 60)); // the cursor did not move past the wrapped one
+    // The second row holds only c's height, not the tall one's: d wraps 10 lower.
+    EXPECT_EQ(at(d), Rectf(100, 60, 180, 70));
+}
+
+TEST_F(StaticLayoutTest, GridAndBorderLayOutHiddenChildrenAndHugeMarginsWrapSafely)
+{
+    StaticLayout& grid = layout(100, 60, "GridLayout", 2);
+    grid.setProperty("GridSize", "rows:1 cols:2");
+    Window& first = child(grid, 5, 5);
+    first.hide();
+    Window& second = child(grid, 5, 5);
+    EXPECT_EQ(at(first), Rectf(2, 2, 49, 58));
+    EXPECT_EQ(at(second), Rectf(51, 2, 98, 58));
+
+    StaticLayout& border = layout(100, 60, "BorderLayout", 0);
+    border.SetCurrentBorder(StaticLayout::CenterBorder);
+    Window& hiddenCentre = child(border, 5, 5);
+    hiddenCentre.hide();
+    border.DoLayout();
+    EXPECT_EQ(at(hiddenCentre), Rectf(0, 0, 100, 60));
+
+    // A margin larger than the area: the unsigned sums wrap round, giving huge cells.
+    EXPECT_NO_THROW(grid.SetMargin(1000));
+    EXPECT_GT(second.getPixelSize().d_width, 1e9f);
+    StaticLayout& fill = layout(100, 60, "FillLayout", 0);
+    Window& filled = child(fill, 5, 5);
+    EXPECT_NO_THROW(fill.SetMargin(4000000000u));
+    EXPECT_NO_THROW(fill.DoLayout());
+    EXPECT_TRUE(std::isfinite(filled.getPixelSize().d_width));
+}
+
+TEST_F(StaticLayoutTest, AChildFoundByNameGoesIntoItsBorder)
+{
+    StaticLayout& l = layout(200, 100, "BorderLayout", 0);
+    Window& loose = moxietest::place("MoxieLook/Button", 0, 0, 40, 30);
+    loose.setName("loose");
+    l.addChildWindowInBorder("loose", StaticLayout::SouthBorder);
+    EXPECT_EQ(loose.getParent(), &l);
+    EXPECT_EQ(l.GetBorderForChild(&loose), StaticLayout::SouthBorder);
+    EXPECT_EQ(at(loose), Rectf(0, 70, 200, 100));
+    EXPECT_THROW(l.addChildWindowInBorder("nobody", StaticLayout::NorthBorder),
+                 UnknownObjectException);
+}
+
+TEST_F(StaticLayoutTest, TheParentIsMutedWhileAChildLayoutIsDragged)
+{
+    StaticLayout& outer = layout(300, 200, "FlowLayout", 0);
+    auto& inner = static_cast<StaticLayout&>(
+        *WindowManager::getSingleton().createWindow("MoxieLook/StaticLayout"));
+    inner.setSize(USize(cegui_absdim(60), cegui_absdim(40)));
+    outer.addChild(&inner);
+    inner.SetDragAuthorized(true);
+
+    moxietest::pointerTo(20, 20);
+    moxietest::leftDown();
+    moxietest::pointerTo(40, 20);
+    ASSERT_TRUE(inner.IsDragging());
+    EXPECT_TRUE(outer.isMuted());
+    moxietest::pointerTo(200, 150); // the muted parent does not pull it back
+    EXPECT_EQ(inner.getUnclippedOuterRect().get().d_min, Vector2f(190, 140));
+    moxietest::leftUp();
+    EXPECT_FALSE(outer.isMuted());
+    EXPECT_EQ(at(inner), Rectf(0, 0, 60, 40));
 }
 
 TEST_F(StaticLayoutTest, DraggingDropsOnATargetOrCancelsAndPutsTheWidgetBack)

@@ -117,3 +117,18 @@ TEST_F(StaticsTest, TextItemExShowsIconHoverAndSelectionAndTogglesOnClick)
     EXPECT_TRUE(item.isSelected());
     EXPECT_EQ(changes, 1);
 }
+
+TEST_F(StaticsTest, TextIsDrawnInFullWhenParsingIsOff)
+{
+    for (const char* type : {"MoxieLook/StaticText", "MoxieLook/Button", "MoxieLook/ButtonEx"})
+    {
+        Window& window = moxietest::place(type, 10, 10, 300, 40);
+        window.setText("Press [Enter]");
+        const Font& font = *window.getFont();
+        const float parsedWidth = drawnBy(window).back().rect.getWidth();
+        window.setProperty("TextParsingEnabled", "False");
+        const float fullWidth = drawnBy(window).back().rect.getWidth();
+        EXPECT_NEAR(fullWidth, font.getTextExtent("Press [Enter]"), 2.0f) << type;
+        EXPECT_LT(parsedWidth, fullWidth - 10) << type; // "[Enter]" read as a tag
+    }
+}

@@ -12,13 +12,14 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+namespace
+{
+ButtonExProperties::VerticalTextAlignmentProperty s_verticalTextAlignmentProperty;
+} // namespace
+
 ButtonEx::ButtonEx(const String& type, const String& name) : PushButtonEx(type, name)
 {
-    const String propertyOrigin("MoxieLook/ButtonEx");
-    CEGUI_DEFINE_PROPERTY(ButtonEx, String, "VerticalTextAlignment",
-                          "Property to change the text vertical alignment.",
-                          &ButtonEx::setVerticalAlignmentName, &ButtonEx::getVerticalAlignmentName,
-                          "Middle");
+    addProperty(&s_verticalTextAlignmentProperty);
     addEvent(EventDragStarted);
     addEvent(EventDropCancelled);
 }
@@ -34,18 +35,6 @@ void ButtonEx::initialiseComponents()
     subscribeEvent(EventMouseButtonDown, Event::Subscriber(&ButtonEx::MouseDown, this));
     subscribeEvent(EventMouseMove, Event::Subscriber(&ButtonEx::MouseMove, this));
     subscribeEvent(EventMouseButtonUp, Event::Subscriber(&ButtonEx::MouseUp, this));
-}
-
-void ButtonEx::setVerticalAlignmentName(const String& name)
-{
-    SetVerticalTextAlignment(name == "Top" ? VTA_Top : name == "Middle" ? VTA_Middle : VTA_Bottom);
-}
-
-String ButtonEx::getVerticalAlignmentName() const
-{
-    return d_verticalAlignment == VTA_Top      ? "Top"
-           : d_verticalAlignment == VTA_Middle ? "Middle"
-                                               : "Bottom";
 }
 
 void ButtonEx::SetVerticalTextAlignment(VerticalTextAlignment alignment)
@@ -86,20 +75,25 @@ void ButtonEx::RemoveDropTarget(Window* window)
     window->removeEvent(EventDropped);
 }
 
-Rectf ButtonEx::GetLocalUnclippedInnerRect() const
+Rectf ButtonEx::localFrameInnerRect() const
 {
     const Rectf all(Vector2f(0, 0), getPixelSize());
     return isStandardImageryEnabled() ? d_normalFrame.innerRect(all) : all;
 }
 
+Rectf ButtonEx::GetLocalUnclippedInnerRect() const
+{
+    return toLocal(*this, getUnclippedInnerRect().get());
+}
+
 Rectf ButtonEx::GetLocalInnerRect() const
 {
-    return GetLocalUnclippedInnerRect();
+    return toLocal(*this, getInnerRectClipper());
 }
 
 Rectf ButtonEx::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
 {
-    Rectf inner = GetLocalUnclippedInnerRect();
+    Rectf inner = localFrameInnerRect();
     inner.offset((skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
                                         : getUnclippedOuterRect().get())
                      .d_min);
@@ -171,7 +165,7 @@ void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool us
     }
     else if (useCustomImage && customImage.getImage())
     {
-        const Rectf inner = GetLocalInnerRect();
+        const Rectf inner = localFrameInnerRect();
         customImage.setColours(withAlpha(customImage.getColours(), alpha));
         customImage.draw(buffer, inner.d_min, nullptr);
     }
@@ -184,7 +178,7 @@ void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool us
                                         : d_verticalAlignment == VTA_Middle
                                             ? VertTextFormat::Centred
                                             : VertTextFormat::Bottom;
-        drawText(*this, buffer, getRenderedString(), GetLocalInnerRect(), HorzTextFormat::Centred,
+        drawText(*this, buffer, getRenderedString(), localFrameInnerRect(), HorzTextFormat::Centred,
                  vertical, ColourRect(withAlpha(textColour, alpha)), nullptr);
     }
 }
@@ -274,6 +268,36 @@ bool ButtonEx::MouseUp(const EventArgs& args)
     setEnabled(true);
     return true;
 }
+
+namespace ButtonExProperties
+{
+VerticalTextAlignmentProperty::VerticalTextAlignmentProperty()
+    : Property("VerticalTextAlignment", "Property to change the text vertical alignment.", "Middle",
+               true, "MoxieLook/ButtonEx")
+{
+}
+
+String VerticalTextAlignmentProperty::get(const PropertyReceiver* receiver) const
+{
+    switch (static_cast<const ButtonEx*>(receiver)->GetVerticalTextAlignment())
+    {
+    case ButtonEx::VTA_Top:
+        return "Top";
+    case ButtonEx::VTA_Middle:
+        return "Middle";
+    default:
+        return "Bottom";
+    }
+}
+
+void VerticalTextAlignmentProperty::set(PropertyReceiver* receiver, const String& value)
+{
+    static_cast<ButtonEx*>(receiver)->SetVerticalTextAlignment(value == "Top" ? ButtonEx::VTA_Top
+                                                               : value == "Middle"
+                                                                   ? ButtonEx::VTA_Middle
+                                                                   : ButtonEx::VTA_Bottom);
+}
+} // namespace ButtonExProperties
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -98,7 +98,8 @@ public:
     void SetSourceDragInfo(const std::string& info) { d_sourceDragInfo = info; }
     const std::string& GetSourceDragInfo() const { return d_sourceDragInfo; }
 
-    //! Inside the frame of the standard imagery (the whole window without it).
+    //! The inner rectangle (inside the frame of the standard imagery, the whole window
+    //! without it), unclipped or clipped, from the window's unclipped top-left.
     Rectf GetLocalUnclippedInnerRect() const override;
     Rectf GetLocalInnerRect() const override;
 
@@ -114,7 +115,7 @@ protected:
     // MultiImage's hooks.
     void MyOnSized() override;
     void MyRequestRedraw() override { invalidate(); }
-    Rectf MyGetInnerRect() const override { return getUnclippedInnerRect().get(); }
+    Rectf MyGetInnerRect() const override { return getInnerRectClipper(); }
 
     std::string d_clickSound = "clic";
     std::string d_dropSound = "cloc";
@@ -135,8 +136,7 @@ private:
     bool MouseMove(const EventArgs& args);
     bool MouseUp(const EventArgs& args);
 
-    void setVerticalAlignmentName(const String& name);
-    String getVerticalAlignmentName() const;
+    Rectf localFrameInnerRect() const;
 
     VerticalTextAlignment d_verticalAlignment = VTA_Middle;
     bool d_dragAuthorised = false;
@@ -152,6 +152,19 @@ private:
     UVector2 d_positionBeforeDrag;
     std::string d_sourceDragInfo;
 };
+
+namespace ButtonExProperties
+{
+//! "Top", "Middle" (the default), anything else bottom.
+class VerticalTextAlignmentProperty : public Property
+{
+public:
+    VerticalTextAlignmentProperty();
+    String get(const PropertyReceiver* receiver) const override;
+    void set(PropertyReceiver* receiver, const String& value) override;
+    Property* clone() const override { return new VerticalTextAlignmentProperty(*this); }
+};
+} // namespace ButtonExProperties
 
 } // namespace MoxieLook
 } // namespace CEGUI

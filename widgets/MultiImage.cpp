@@ -2,6 +2,7 @@
 
 #include <CEGUI/Image.h>
 #include <CEGUI/ImageManager.h>
+#include <CEGUI/Window.h>
 #include <algorithm>
 
 namespace CEGUI
@@ -27,6 +28,13 @@ MultiImage::ImageAlignment MultiImage::alignmentFromName(const String& name)
 String MultiImage::nameOf(ImageAlignment alignment)
 {
     return AlignmentNames[std::clamp(static_cast<int>(alignment), 0, 9)];
+}
+
+Rectf MultiImage::toLocal(const Window& window, Rectf rect)
+{
+    const Vector2f origin = window.getUnclippedOuterRect().get().d_min;
+    rect.offset(Vector2f(-origin.d_x, -origin.d_y));
+    return rect;
 }
 
 Rectf MultiImage::placement(const Rectf& inner, const Sizef& size, int offsetX, int offsetY,
@@ -57,8 +65,8 @@ void MultiImage::AddImage(const Image* image, int offsetX, int offsetY, float sc
     if (!image)
         return;
     Entry entry{image, offsetX, offsetY, scale, alignment, colours, true, Rectf()};
-    entry.placed = placement(GetLocalInnerRect(), image->getRenderedSize(), offsetX, offsetY, scale,
-                             alignment);
+    entry.placed = placement(GetLocalUnclippedInnerRect(), image->getRenderedSize(), offsetX,
+                             offsetY, scale, alignment);
     d_entries.push_back(entry);
     changed();
 }
@@ -120,7 +128,7 @@ void MultiImage::SetVisibilityImage(const String& imageset, const String& image,
 
 void MultiImage::MyOnSizedInternal()
 {
-    const Rectf inner = GetLocalInnerRect();
+    const Rectf inner = GetLocalUnclippedInnerRect();
     for (Entry& entry : d_entries)
         entry.placed = placement(inner, entry.image->getRenderedSize(), entry.offsetX,
                                  entry.offsetY, entry.scale, entry.alignment);

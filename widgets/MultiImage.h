@@ -7,6 +7,8 @@
 //   3 "Left"        4 "Centre"  5 "Right"
 //   6 "BottomLeft"  7 "Bottom"  8 "BottomRight"
 //   9 "None": at the offsets from the inner rectangle's top-left.
+// Images are placed against the unclipped inner rectangle, so that a partly clipped
+// widget keeps its images where they belong.
 // "Center" is read as "Centre"; any other unknown name as "None".
 #pragma once
 
@@ -19,6 +21,7 @@ namespace CEGUI
 {
 class GeometryBuffer;
 class Image;
+class Window;
 
 namespace MoxieLook
 {
@@ -45,6 +48,9 @@ public:
     //! Where an image of `size`, scaled, goes in `inner`.
     static Rectf placement(const Rectf& inner, const Sizef& size, int offsetX, int offsetY,
                            float scale, ImageAlignment alignment);
+
+    //! A screen rectangle of `window` measured from the window's unclipped top-left.
+    static Rectf toLocal(const Window& window, Rectf rect);
 
     virtual ~MultiImage() = default;
 

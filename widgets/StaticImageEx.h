@@ -14,9 +14,13 @@ class StaticImageEx : public StaticImage, public MultiImage
 public:
     StaticImageEx(const String& type, const String& name) : StaticImage(type, name) {}
 
-    //! The area inside the frame, from the window's own top-left.
-    Rectf GetLocalUnclippedInnerRect() const override { return localInnerRect(); }
-    Rectf GetLocalInnerRect() const override { return localInnerRect(); }
+    //! The area inside the frame, unclipped or clipped, from the window's unclipped
+    //! top-left.
+    Rectf GetLocalUnclippedInnerRect() const override
+    {
+        return toLocal(*this, getUnclippedInnerRect().get());
+    }
+    Rectf GetLocalInnerRect() const override { return toLocal(*this, getInnerRectClipper()); }
 
 protected:
     void drawContent(GeometryBuffer& buffer, const Rectf& inner) override;

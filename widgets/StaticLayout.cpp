@@ -22,23 +22,6 @@ StaticLayoutProperties::MarginProperty s_marginProperty;
 StaticLayoutProperties::FlowLayoutHorizontalAlignmentProperty s_flowAlignmentProperty;
 StaticLayoutProperties::GridSizeProperty s_gridSizeProperty;
 
-const char* layoutName(StaticLayout::Layout layout)
-{
-    switch (layout)
-    {
-    case StaticLayout::FlowLayout:
-        return "FlowLayout";
-    case StaticLayout::FillLayout:
-        return "FillLayout";
-    case StaticLayout::GridLayout:
-        return "GridLayout";
-    case StaticLayout::BorderLayout:
-        return "BorderLayout";
-    default:
-        return "DefaultLayout";
-    }
-}
-
 // Toward zero, then read as unsigned 32-bit; values no int holds are clamped first.
 std::uint32_t truncated(float value)
 {
@@ -174,7 +157,7 @@ void StaticLayout::addChild_impl(Element* element)
         Window* child = static_cast<Window*>(element);
         if (d_currentBorder > CenterBorder)
             throw LayoutException("BorderLayout error : trying to add " + child->getName() +
-                                  "  in " + layoutName(d_layout) + " without specified border");
+                                  "  in " + getName() + " without specified border");
         d_regions[d_currentBorder] = child;
         d_currentBorder = NoBorder;
     }
@@ -225,6 +208,12 @@ void StaticLayout::place(Window& child, float x, float y, float width, float hei
                   USize(cegui_absdim(width), cegui_absdim(height)));
 }
 
+void StaticLayout::placeAt(Window& child, float x, float y) const
+{
+    const Rectf area = localInnerRect();
+    child.setPosition(UVector2(cegui_absdim(x - area.left()), cegui_absdim(y - area.top())));
+}
+
 void StaticLayout::DoLayout()
 {
     const Rectf inner = getUnclippedInnerRect().get();
@@ -271,7 +260,7 @@ void StaticLayout::flowLayout(const Rectf& area)
 
         if (fromLeft)
         {
-            place(child, x, y, size.d_width, size.d_height);
+            placeAt(child, x, y);
             x = x + asFloat(truncated(size.d_width)) + m;
             // Wrap after placing: an overrunning child stays, the next starts a new row.
             if (x >= area.right())
@@ -290,7 +279,7 @@ void StaticLayout::flowLayout(const Rectf& area)
                 rowHeight = 0;
                 x = area.right() - m;
             }
-            place(child, x, y, size.d_width, size.d_height);
+            placeAt(child, x, y);
         }
     }
 }

@@ -94,6 +94,8 @@ private:
     void layoutUnlessMuted();
     //! Puts a child at (x, y) from this window's outer edge, with the given size.
     void place(Window& child, float x, float y, float width, float height) const;
+    //! Moves the child only: the flow rule leaves sizes to the children.
+    void placeAt(Window& child, float x, float y) const;
     void flowLayout(const Rectf& area);
     void fillLayout(const Rectf& area);
     void gridLayout(const Rectf& area);

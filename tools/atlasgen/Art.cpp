@@ -49,6 +49,16 @@ std::vector<Ring> raised(Rgb line, Rgb bevel, double bevelAlpha)
     return {{line, mix(line, Ink, 0.25)}, {bevel, mix(bevel, Ink, 0.3), bevelAlpha}};
 }
 
+void box(cairo_t* cr, double size, double radius, Rgb line, Rgb top, Rgb bottom)
+{
+    roundedRect(cr, 0.5, 0.5, size - 1, size - 1, radius);
+    setVerticalGradient(cr, 0, size, top, bottom);
+    cairo_fill_preserve(cr);
+    setColour(cr, line);
+    cairo_set_line_width(cr, 1);
+    cairo_stroke(cr);
+}
+
 void paintButtons(Atlas& atlas)
 {
     // "MoxieLook/Button": the fill is tinted by the look's own gradient, so it stays white.
@@ -68,6 +78,21 @@ void paintButtons(Atlas& atlas)
     addRingFrame(atlas, frameNames("ButtonScroll"), 3, 2.5, raised(Border, White, 0.8));
     addRingFrame(atlas, frameNames("ButtonScrollFocus"), 3, 2.5, raised(Accent, White, 0.9));
     addGradient(atlas, "ButtonScrollFill", 4, 16, FaceTop, FaceBottom);
+
+    // A flat tool button, one stretched image per state, named as
+    // ButtonEx::SetStandardizedFrame expects: base + "Normal", "Focus", "Clicked", "Disabled".
+    const struct
+    {
+        const char* state;
+        Rgb top, bottom, line;
+    } tools[] = {{"Normal", FaceTop, FaceBottom, Border},
+                 {"Focus", White, AccentLight, Accent},
+                 {"Clicked", PushedTop, PushedBottom, AccentDark},
+                 {"Disabled", DisabledFace, DisabledFace, DisabledBorder}};
+    for (const auto& tool : tools)
+        atlas.add(std::string("ToolButton") + tool.state, 24, 24,
+                  [tool](cairo_t* cr, double w, double)
+                  { box(cr, w, 4, tool.line, tool.top, tool.bottom); });
 
     // Menu buttons: a pill in three pieces per state.
     struct MenuState
@@ -184,16 +209,6 @@ void paintArrows(Atlas& atlas)
                   setColour(cr, Border);
                   cairo_fill(cr);
               });
-}
-
-void box(cairo_t* cr, double size, double radius, Rgb line, Rgb top, Rgb bottom)
-{
-    roundedRect(cr, 0.5, 0.5, size - 1, size - 1, radius);
-    setVerticalGradient(cr, 0, size, top, bottom);
-    cairo_fill_preserve(cr);
-    setColour(cr, line);
-    cairo_set_line_width(cr, 1);
-    cairo_stroke(cr);
 }
 
 void paintToggles(Atlas& atlas)
