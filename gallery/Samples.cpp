@@ -158,8 +158,21 @@ void decorate(MoxieLook::MultiImage& target, bool badge)
 
 const std::vector<Sample>& samples()
 {
+    static const std::vector<Sample> all = []
+    {
+        std::vector<Sample> gathered;
+        for (auto group : {staticAndScrollingSamples, selectableSamples})
+            for (Sample& sample : group())
+                gathered.push_back(std::move(sample));
+        return gathered;
+    }();
+    return all;
+}
+
+std::vector<Sample> staticAndScrollingSamples()
+{
     using State = Card::State;
-    static const std::vector<Sample> all = {
+    return {
         {"MoxieLook/Button", 64,
          [](Card& card)
          {
@@ -381,7 +394,6 @@ const std::vector<Sample>& samples()
              }
          }},
     };
-    return all;
 }
 
 } // namespace gallery

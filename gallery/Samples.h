@@ -1,5 +1,5 @@
 // What the gallery shows of each window type: one card per type, built by a small
-// function. A type joins the gallery with one entry in Samples.cpp.
+// function. A type joins the gallery with one entry in the group file of its kind.
 #pragma once
 
 #include <CEGUI/String.h>
@@ -57,6 +57,11 @@ struct Sample
     std::function<void(Card&)> build;
 };
 
+//! Every card, gathered from the groups below.
 const std::vector<Sample>& samples();
+
+// The groups of cards, one source file each.
+std::vector<Sample> staticAndScrollingSamples();
+std::vector<Sample> selectableSamples();
 
 } // namespace gallery

@@ -7,6 +7,7 @@
 #include "GalleryPage.h"
 #include "Label.h"
 #include "Png.h"
+#include "ShownHovered.h"
 #include "module/Soundification.h"
 
 #include <CEGUI/CEGUI.h>
@@ -258,6 +259,7 @@ int main(int argc, char** argv)
     resources->setDefaultResourceGroup("moxielook");
     WindowFactoryManager::addFactory<TplWindowFactory<gallery::Label>>();
     SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    gallery::registerShownHoveredTypes();
     // A host maps the module's sound names to sounds; the gallery just says them.
     MoxieLook::MXSoundification::GetInstance().RegisterHook(
         [](const std::string& name) { std::cout << "sound: " << name << std::endl; });

@@ -49,6 +49,14 @@ MXStaticImageEx::MXStaticImageEx(const String& type, const String& name) : Stati
     setBackgroundEnabled(false);
 }
 
+MXAnimatedStaticImage::MXAnimatedStaticImage(const String& type, const String& name)
+    : AnimatedStaticImage(type, name)
+{
+    applyTo(*this);
+    setFrameEnabled(false);
+    setBackgroundEnabled(false);
+}
+
 MXTextItem::MXTextItem(const String& type, const String& name) : TextItem(type, name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "looks/LookFactory.h"
+#include "widgets/AnimatedStaticImage.h"
 #include "widgets/StaticImage.h"
 #include "widgets/StaticImageEx.h"
 #include "widgets/StaticLayout.h"
@@ -69,6 +70,14 @@ public:
     MXStaticImageEx(const String& type, const String& name);
 };
 
+//! "MoxieLook/AnimatedStaticImage": the static image look, its picture changing with time.
+class MXAnimatedStaticImage : public AnimatedStaticImage, public StaticFrameImages
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/AnimatedStaticImage";
+    MXAnimatedStaticImage(const String& type, const String& name);
+};
+
 //! "MoxieLook/TextItem".
 class MXTextItem : public TextItem
 {
@@ -95,6 +104,7 @@ using MXStaticLayoutFactory = LookFactory<MXStaticLayout>;
 using MXStaticTextFactory = LookFactory<MXStaticText>;
 using MXStaticImageFactory = LookFactory<MXStaticImage>;
 using MXStaticImageExFactory = LookFactory<MXStaticImageEx>;
+using MXAnimatedStaticImageFactory = LookFactory<MXAnimatedStaticImage>;
 using MXTextItemFactory = LookFactory<MXTextItem>;
 using MXTextItemExFactory = LookFactory<MXTextItemEx>;
 

@@ -2,9 +2,11 @@
 
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
+#include "looks/MXClock.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
 #include "looks/MXScrollbarThumb.h"
+#include "looks/MXSelectableButtons.h"
 #include "looks/MXSlider.h"
 #include "looks/MXStatics.h"
 
@@ -39,6 +41,11 @@ MXScrollablePaneFactory s_scrollablePane;
 MXTextItemFactory s_textItem;
 MXTextItemExFactory s_textItemEx;
 MXMenuButtonFactory s_menuButton;
+MXCheckboxFactory s_checkbox;
+MXClockFactory s_clock;
+MXToggleButtonFactory s_toggleButton;
+MXRadioButtonFactory s_radioButton;
+MXAnimatedStaticImageFactory s_animatedStaticImage;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -48,6 +55,7 @@ const std::array k_table{
     FactoryEntry{MXStaticImageEx::WidgetTypeName, &s_staticImageEx, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
+    FactoryEntry{MXCheckbox::WidgetTypeName, &s_checkbox, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
     FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
     FactoryEntry{MXVertScrollbarThumb::WidgetTypeName, &s_vertScrollbarThumb, nullptr},
@@ -57,7 +65,11 @@ const std::array k_table{
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
+    FactoryEntry{MXClock::WidgetTypeName, &s_clock, nullptr},
+    FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},
+    FactoryEntry{MXRadioButton::WidgetTypeName, &s_radioButton, nullptr},
     FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},
+    FactoryEntry{MXAnimatedStaticImage::WidgetTypeName, &s_animatedStaticImage, nullptr},
 };
 } // namespace
 

@@ -289,8 +289,9 @@ TEST(Scrollbar, ArrowButtonsShowTheirArrowCentredAndStayOnTop)
         {horz.getIncreaseButton(), "LargeRightArrow"},
         {vert.getDecreaseButton(), "LargeUpArrow"},
         {vert.getIncreaseButton(), "LargeDownArrow"}};
-    for (const auto& [button, arrow] : buttons)
+    for (const auto& [button, arrowName] : buttons)
     {
+        const std::string arrow = arrowName;
         EXPECT_TRUE(button->isAlwaysOnTop());
         const std::vector<moxietest::DrawnQuad> quads = drawnBy(*button);
         ASSERT_TRUE(contains(imageNames(quads), arrow)) << arrow;

@@ -230,8 +230,9 @@ void paintToggles(Atlas& atlas)
                   cairo_stroke(cr);
               });
 
-    // The radio button's indicator: a round knob, its focus ring, its selected dot.
-    auto knob = [](Rgb line, Rgb top, Rgb bottom, bool dot)
+    // The radio button's indicator: a round knob; selected, it carries a dot. Under the
+    // pointer the ring turns to the accent and the knob takes a blue tint.
+    auto knob = [](Rgb line, Rgb top, Rgb bottom, bool dot, Rgb dotColour)
     {
         return [=](cairo_t* cr, double w, double h)
         {
@@ -244,27 +245,34 @@ void paintToggles(Atlas& atlas)
             if (dot)
             {
                 cairo_arc(cr, w / 2, h / 2, 3.5, 0, 2 * M_PI);
-                setColour(cr, AccentDark);
+                setColour(cr, dotColour);
                 cairo_fill(cr);
             }
         };
     };
-    atlas.add("LiftMiddleNormal", 16, 16, knob(Border, White, hex(0xE3E9F0), false));
-    atlas.add("LiftMiddleFocus", 16, 16, knob(Accent, White, AccentLight, false));
-    atlas.add("LiftMiddlePushed", 16, 16, knob(AccentDark, White, AccentLight, true));
+    atlas.add("LiftMiddleNormal", 16, 16, knob(Border, White, hex(0xE3E9F0), false, Ink));
+    atlas.add("LiftMiddleFocus", 16, 16, knob(Accent, White, AccentLight, false, Ink));
+    atlas.add("LiftMiddlePushed", 16, 16, knob(AccentDark, White, hex(0xE3E9F0), true, AccentDark));
+    atlas.add("LiftMiddlePushedFocus", 16, 16, knob(Accent, White, AccentLight, true, Accent));
 
-    // The toggle indicator of toggle and task-bar buttons; the mark is laid over it.
+    // The toggle indicator of toggle and task-bar buttons. The mark is a whole selected
+    // indicator: the toggle button draws it instead of the box, the task bar over it.
     atlas.add("TaskbarButtonNormal", 16, 16,
               [](cairo_t* cr, double w, double) { box(cr, w, 3, Border, White, hex(0xE3E9F0)); });
     atlas.add("TaskbarButtonHover", 16, 16,
               [](cairo_t* cr, double w, double) { box(cr, w, 3, Accent, White, AccentLight); });
-    atlas.add("TaskbarButtonMark", 16, 16,
-              [](cairo_t* cr, double, double)
-              {
-                  roundedRect(cr, 4, 4, 8, 8, 1.5);
-                  setVerticalGradient(cr, 4, 12, Accent, AccentDark);
-                  cairo_fill(cr);
-              });
+    auto mark = [](Rgb line, Rgb top, Rgb bottom)
+    {
+        return [=](cairo_t* cr, double w, double)
+        {
+            box(cr, w, 3, line, top, bottom);
+            roundedRect(cr, 5, 5, 6, 6, 1.5);
+            setColour(cr, White, 0.95);
+            cairo_fill(cr);
+        };
+    };
+    atlas.add("TaskbarButtonMark", 16, 16, mark(AccentDark, Accent, AccentDark));
+    atlas.add("TaskbarButtonMarkHover", 16, 16, mark(Accent, hex(0x8DB8F2), Accent));
     addBar(atlas, {"TaskbarLeft", "TaskbarMiddle", "TaskbarRight"}, 6, 32,
            [](cairo_t* cr, double w, double h)
            {
@@ -572,7 +580,7 @@ void paintWidgets(Atlas& atlas)
     addGradient(atlas, "ListboxSelectionBrush", 4, 16, hex(0xC5DAF7), hex(0xA9C8F2));
     addGradient(atlas, "ListboxHoverBrush", 4, 16, hex(0xEEF4FD), hex(0xDDE9FA));
 
-    atlas.add("ClockBackground", 72, 24,
+    atlas.add("ClockBackground", 160, 24,
               [](cairo_t* cr, double w, double h)
               {
                   roundedRect(cr, 0.5, 0.5, w - 1, h - 1, 4);
