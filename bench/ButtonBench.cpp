@@ -1,39 +1,18 @@
 // Geometry of N "MoxieLook/Button" windows against N "TaharezLook/Button" windows (CEGUI's
 // own XML-driven sample skin), both rebuilt from scratch on every iteration.
+#include "BenchCegui.h"
+
 #include <CEGUI/CEGUI.h>
-#include <CEGUI/RendererModules/Null/Renderer.h>
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 #include <vector>
 
 using namespace CEGUI;
 
 namespace
 {
-void startCegui()
-{
-    setenv("CEGUI_MODULE_DIR", MOXIE_MODULE_DIR, 0);
-    new DefaultLogger();
-    Logger::getSingleton().setLogFilename("CEGUI-bench.log", false);
-
-    NullRenderer& renderer = NullRenderer::create();
-    renderer.setDisplaySize(Sizef(1280, 1024));
-    System::create(renderer);
-    auto* resources =
-        static_cast<DefaultResourceProvider*>(System::getSingleton().getResourceProvider());
-    // One folder holds both skins' files (links made by the build).
-    resources->setResourceGroupDirectory("bench", MOXIE_BENCH_DATA_DIR);
-    resources->setDefaultResourceGroup("bench");
-    SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
-    SchemeManager::getSingleton().createFromFile("TaharezLook.scheme");
-
-    Window* sheet = WindowManager::getSingleton().createWindow("DefaultWindow", "sheet");
-    System::getSingleton().getDefaultGUIContext().setRootWindow(sheet);
-}
-
 void populateButtons(benchmark::State& state, const char* type)
 {
-    Window* sheet = System::getSingleton().getDefaultGUIContext().getRootWindow();
+    Window* sheet = &moxiebench::sheet();
     std::vector<Window*> buttons;
     for (int64_t i = 0; i < state.range(0); ++i)
     {
@@ -69,13 +48,3 @@ void populateButtons(benchmark::State& state, const char* type)
 
 BENCHMARK_CAPTURE(populateButtons, MoxieLook, "MoxieLook/Button")->Arg(100)->Arg(1000);
 BENCHMARK_CAPTURE(populateButtons, TaharezLook, "TaharezLook/Button")->Arg(100)->Arg(1000);
-
-int main(int argc, char** argv)
-{
-    startCegui();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    System::destroy();
-    return 0;
-}

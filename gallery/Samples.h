@@ -63,5 +63,7 @@ const std::vector<Sample>& samples();
 // The groups of cards, one source file each.
 std::vector<Sample> staticAndScrollingSamples();
 std::vector<Sample> selectableSamples();
+std::vector<Sample> treeSamples();
+std::vector<Sample> inputSamples();
 
 } // namespace gallery

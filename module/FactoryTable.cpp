@@ -3,12 +3,14 @@
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
+#include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
 #include "looks/MXScrollbarThumb.h"
 #include "looks/MXSelectableButtons.h"
 #include "looks/MXSlider.h"
 #include "looks/MXStatics.h"
+#include "looks/MXTreeView.h"
 
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowRendererManager.h>
@@ -43,6 +45,8 @@ MXTextItemExFactory s_textItemEx;
 MXMenuButtonFactory s_menuButton;
 MXCheckboxFactory s_checkbox;
 MXClockFactory s_clock;
+MXTreeViewFactory s_treeView;
+MXProgressBarFactory s_progressBar;
 MXToggleButtonFactory s_toggleButton;
 MXRadioButtonFactory s_radioButton;
 MXAnimatedStaticImageFactory s_animatedStaticImage;
@@ -56,6 +60,7 @@ const std::array k_table{
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
     FactoryEntry{MXCheckbox::WidgetTypeName, &s_checkbox, nullptr},
+    FactoryEntry{MXProgressBar::WidgetTypeName, &s_progressBar, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
     FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
     FactoryEntry{MXVertScrollbarThumb::WidgetTypeName, &s_vertScrollbarThumb, nullptr},
@@ -66,6 +71,7 @@ const std::array k_table{
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
     FactoryEntry{MXClock::WidgetTypeName, &s_clock, nullptr},
+    FactoryEntry{MXTreeView::WidgetTypeName, &s_treeView, nullptr},
     FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},
     FactoryEntry{MXRadioButton::WidgetTypeName, &s_radioButton, nullptr},
     FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},

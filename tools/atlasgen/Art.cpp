@@ -132,6 +132,8 @@ void paintFrames(Atlas& atlas)
     addRingFrame(atlas, frameNames("StaticFrameList"), 4, 2.0,
                  {{Border, BorderLight}, {hex(0xC5CED9), hex(0xF2F4F7)}});
     addGradient(atlas, "Background", 4, 4, Panel, Panel);
+    // The tree view's field: dark, for its light text colours.
+    addGradient(atlas, "TreeViewFill", 4, 16, hex(0x34424F), hex(0x2A3540));
 
     addRingFrame(atlas, frameNames("WindowFrame"), 6, 5.0,
                  {{hex(0x23497F), hex(0x1F3F6F)},

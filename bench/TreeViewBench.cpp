@@ -1,0 +1,84 @@
+// A tree view of 1,000 titles of 100 leaves (100,000 lines, all open) in a 400 x 600 view,
+// against the same view of 10 titles (1,000 lines): the cost of a hover change (search and
+// redraw), a scroll and a plain redraw should follow the lines on screen.
+#include "BenchCegui.h"
+#include "widgets/TreeView.h"
+
+#include <CEGUI/CEGUI.h>
+#include <benchmark/benchmark.h>
+
+using namespace CEGUI;
+using CEGUI::MoxieLook::TreeView;
+
+namespace
+{
+TreeView& makeTree(int titles)
+{
+    auto& tree =
+        static_cast<TreeView&>(*WindowManager::getSingleton().createWindow("MoxieLook/TreeView"));
+    tree.setArea(UVector2(cegui_absdim(0), cegui_absdim(0)),
+                 USize(cegui_absdim(400), cegui_absdim(600)));
+    moxiebench::sheet().addChild(&tree);
+    for (int t = 0; t < titles; ++t)
+    {
+        TreeView::Node* title =
+            tree.GetRootNode()->Add("t", "Title " + PropertyHelper<int>::toString(t), nullptr);
+        for (int l = 0; l < 100; ++l)
+            title->Add("l", "Leaf " + PropertyHelper<int>::toString(l), nullptr);
+    }
+    tree.render();
+    return tree;
+}
+
+void finish(benchmark::State& state, TreeView& tree)
+{
+    state.counters["vertices"] = static_cast<double>(tree.getGeometryBuffer().getVertexCount());
+    state.counters["lines"] = static_cast<double>(tree.GetLaidOutLines().size());
+    WindowManager::getSingleton().destroyWindow(&tree);
+    WindowManager::getSingleton().cleanDeadPool();
+}
+
+// The pointer moves between two lines: the hovered node changes every time.
+void treeHoverChange(benchmark::State& state)
+{
+    TreeView& tree = makeTree(static_cast<int>(state.range(0)));
+    GUIContext& gui = System::getSingleton().getDefaultGUIContext();
+    bool flip = false;
+    for (auto _ : state)
+    {
+        gui.injectMousePosition(40, flip ? 100 : 140);
+        tree.render();
+        flip = !flip;
+    }
+    finish(state, tree);
+}
+
+void treeScroll(benchmark::State& state)
+{
+    TreeView& tree = makeTree(static_cast<int>(state.range(0)));
+    ScrollablePane* pane = tree.GetScrollablePane();
+    bool flip = false;
+    for (auto _ : state)
+    {
+        pane->setVerticalScrollPosition(flip ? 0.5f : 0.25f);
+        tree.render();
+        flip = !flip;
+    }
+    finish(state, tree);
+}
+
+void treeRedraw(benchmark::State& state)
+{
+    TreeView& tree = makeTree(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+    {
+        tree.invalidate();
+        tree.render();
+    }
+    finish(state, tree);
+}
+} // namespace
+
+BENCHMARK(treeHoverChange)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(treeScroll)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(treeRedraw)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
