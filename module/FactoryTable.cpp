@@ -9,6 +9,7 @@
 #include "looks/MXScrollbarThumb.h"
 #include "looks/MXSelectableButtons.h"
 #include "looks/MXSlider.h"
+#include "looks/MXSmartButtonNodeItem.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
 
@@ -46,6 +47,7 @@ MXMenuButtonFactory s_menuButton;
 MXCheckboxFactory s_checkbox;
 MXClockFactory s_clock;
 MXTreeViewFactory s_treeView;
+MXSmartButtonNodeItemFactory s_smartButtonNodeItem;
 MXProgressBarFactory s_progressBar;
 MXToggleButtonFactory s_toggleButton;
 MXRadioButtonFactory s_radioButton;
@@ -74,6 +76,7 @@ const std::array k_table{
     FactoryEntry{MXTreeView::WidgetTypeName, &s_treeView, nullptr},
     FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},
     FactoryEntry{MXRadioButton::WidgetTypeName, &s_radioButton, nullptr},
+    FactoryEntry{MXSmartButtonNodeItem::WidgetTypeName, &s_smartButtonNodeItem, nullptr},
     FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},
     FactoryEntry{MXAnimatedStaticImage::WidgetTypeName, &s_animatedStaticImage, nullptr},
 };

@@ -145,7 +145,13 @@ void MultiImage::drawImages(GeometryBuffer& buffer, float alpha) const
     for (const Entry& entry : d_entries)
         if (entry.visible)
         {
-            ColourRect colours = entry.colours;
+            // All corners 00000000 (what the smart node item gives its icons) means the
+            // image's own colours.
+            const Colour none(0x00000000);
+            const ColourRect& given = entry.colours;
+            const bool untinted = given.d_top_left == none && given.d_top_right == none &&
+                                  given.d_bottom_left == none && given.d_bottom_right == none;
+            ColourRect colours = untinted ? ColourRect(Colour(0xFFFFFFFF)) : given;
             colours.modulateAlpha(alpha);
             entry.image->render(buffer, entry.placed, nullptr, colours);
         }

@@ -7,6 +7,7 @@
 //   3 "Left"        4 "Centre"  5 "Right"
 //   6 "BottomLeft"  7 "Bottom"  8 "BottomRight"
 //   9 "None": at the offsets from the inner rectangle's top-left.
+// Colours tint an image; a colour rectangle of all zeros draws it in its own colours.
 // Images are placed against the unclipped inner rectangle, so that a partly clipped
 // widget keeps its images where they belong.
 // "Center" is read as "Centre"; any other unknown name as "None".
