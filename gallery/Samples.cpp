@@ -161,7 +161,8 @@ const std::vector<Sample>& samples()
     static const std::vector<Sample> all = []
     {
         std::vector<Sample> gathered;
-        for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples})
+        for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
+                           chartSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

@@ -65,5 +65,6 @@ std::vector<Sample> staticAndScrollingSamples();
 std::vector<Sample> selectableSamples();
 std::vector<Sample> treeSamples();
 std::vector<Sample> inputSamples();
+std::vector<Sample> chartSamples();
 
 } // namespace gallery

@@ -3,6 +3,7 @@
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
+#include "looks/MXDiagram.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
@@ -48,6 +49,7 @@ MXCheckboxFactory s_checkbox;
 MXClockFactory s_clock;
 MXTreeViewFactory s_treeView;
 MXSmartButtonNodeItemFactory s_smartButtonNodeItem;
+MXDiagramFactory s_diagram;
 MXProgressBarFactory s_progressBar;
 MXToggleButtonFactory s_toggleButton;
 MXRadioButtonFactory s_radioButton;
@@ -76,6 +78,7 @@ const std::array k_table{
     FactoryEntry{MXTreeView::WidgetTypeName, &s_treeView, nullptr},
     FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},
     FactoryEntry{MXRadioButton::WidgetTypeName, &s_radioButton, nullptr},
+    FactoryEntry{MXDiagram::WidgetTypeName, &s_diagram, nullptr},
     FactoryEntry{MXSmartButtonNodeItem::WidgetTypeName, &s_smartButtonNodeItem, nullptr},
     FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},
     FactoryEntry{MXAnimatedStaticImage::WidgetTypeName, &s_animatedStaticImage, nullptr},

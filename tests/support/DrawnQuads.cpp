@@ -49,6 +49,19 @@ CEGUI::ColourRect cornerColours(const std::vector<CEGUI::Vertex>& vertices,
     return colours;
 }
 
+// Whether the texture runs backwards along an axis of the quad.
+void findMirroring(const std::vector<CEGUI::Vertex>& vertices, DrawnQuad& quad)
+{
+    const auto byX = std::minmax_element(vertices.begin(), vertices.end(),
+                                         [](const CEGUI::Vertex& a, const CEGUI::Vertex& b)
+                                         { return a.position.d_x < b.position.d_x; });
+    const auto byY = std::minmax_element(vertices.begin(), vertices.end(),
+                                         [](const CEGUI::Vertex& a, const CEGUI::Vertex& b)
+                                         { return a.position.d_y < b.position.d_y; });
+    quad.mirroredX = byX.first->tex_coords.d_x > byX.second->tex_coords.d_x;
+    quad.mirroredY = byY.first->tex_coords.d_y > byY.second->tex_coords.d_y;
+}
+
 // Learns each image's texture area by letting the image draw itself once.
 const std::vector<UvArea>& atlasAreas(const CEGUI::Texture*& atlas)
 {
@@ -99,6 +112,7 @@ std::vector<DrawnQuad> decode(const RecordingGeometryBuffer& buffer)
         {
             quads.push_back({imageFor(bounds(batch.vertices, true), areas), rect,
                              cornerColours(batch.vertices, rect)});
+            findMirroring(batch.vertices, quads.back());
             inText = false;
         }
         else if (inText)

@@ -23,6 +23,8 @@ struct DrawnQuad
     std::string image; //!< name inside the imageset, or "text" for a run of glyphs
     CEGUI::Rectf rect; //!< window-local pixels
     CEGUI::ColourRect colours;
+    bool mirroredX = false; //!< the image's right edge drawn at the left
+    bool mirroredY = false; //!< the image's bottom drawn at the top
 };
 
 std::vector<DrawnQuad> decode(const RecordingGeometryBuffer& buffer);

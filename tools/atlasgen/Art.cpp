@@ -593,6 +593,8 @@ void paintWidgets(Atlas& atlas)
                   cairo_stroke(cr);
               });
 
+    // The chart's field: dark, for its white labels and red grid.
+    addGradient(atlas, "DiagramBackground", 4, 16, hex(0x2F3B48), hex(0x25303B));
     // Diagram pieces are white so that each series' colour tints them.
     addGradient(atlas, "DiagramBase", 4, 4, White, White);
     atlas.add("DiagramCorner", 8, 8,
