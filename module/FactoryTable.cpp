@@ -13,6 +13,7 @@
 #include "looks/MXSmartButtonNodeItem.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
+#include "looks/MXWidgetDropDownList.h"
 
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowRendererManager.h>
@@ -50,6 +51,8 @@ MXClockFactory s_clock;
 MXTreeViewFactory s_treeView;
 MXSmartButtonNodeItemFactory s_smartButtonNodeItem;
 MXDiagramFactory s_diagram;
+MXWidgetDropDownListFactory s_widgetDropDownList;
+MXWidgetDropDownListboxFactory s_widgetDropDownListbox;
 MXProgressBarFactory s_progressBar;
 MXToggleButtonFactory s_toggleButton;
 MXRadioButtonFactory s_radioButton;
@@ -71,6 +74,8 @@ const std::array k_table{
     FactoryEntry{MXVertScrollbar::WidgetTypeName, &s_vertScrollbar, &s_scrollbarRenderer},
     FactoryEntry{MXHorzScrollbarThumb::WidgetTypeName, &s_horzScrollbarThumb, nullptr},
     FactoryEntry{MXHorzScrollbar::WidgetTypeName, &s_horzScrollbar, &s_scrollbarRenderer},
+    FactoryEntry{MXWidgetDropDownList::WidgetTypeName, &s_widgetDropDownList, nullptr},
+    FactoryEntry{MXWidgetDropDownListbox::WidgetTypeName, &s_widgetDropDownListbox, nullptr},
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
