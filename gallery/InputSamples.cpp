@@ -2,7 +2,10 @@
 #include "Samples.h"
 #include "widgets/WidgetDropDownListbox.h"
 
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/MultiLineEditbox.h>
 #include <CEGUI/widgets/ProgressBar.h>
+#include <CEGUI/widgets/Spinner.h>
 
 namespace gallery
 {
@@ -11,6 +14,64 @@ using namespace CEGUI;
 std::vector<Sample> inputSamples()
 {
     return {
+        {"MoxieLook/Editbox", 110,
+         [](Card& card)
+         {
+             Window& empty = card.add("MoxieLook/Editbox", "empty: placeholder", 10, 10, 180, 26);
+             empty.setProperty("PlaceholderText", "Search...");
+             auto& selected = static_cast<Editbox&>(
+                 card.add("MoxieLook/Editbox", "focused, a selection", 210, 10, 180, 26));
+             selected.setText("Hello, edit box");
+             selected.activate();
+             selected.setSelection(7, 11);
+             Window& readOnly = card.add("MoxieLook/Editbox", "read-only", 410, 10, 180, 26);
+             readOnly.setText("Cannot change me");
+             readOnly.setProperty("ReadOnly", "True");
+             Window& disabled = card.add("MoxieLook/Editbox", "disabled", 10, 62, 180, 26);
+             disabled.setText("Switched off");
+             disabled.setEnabled(false);
+             Window& masked = card.add("MoxieLook/Editbox", "masked", 210, 62, 180, 26);
+             masked.setText("secret");
+             masked.setProperty("MaskText", "True");
+             masked.setProperty("MaskCodepoint", "8226");
+             Window& digits =
+                 card.add("MoxieLook/Editbox", "digits only (validated)", 410, 62, 180, 26);
+             digits.setProperty("ValidationString", "[0-9]*");
+             digits.setText("2026");
+         }},
+        {"MoxieLook/MultiLineEditbox", 140,
+         [](Card& card)
+         {
+             Window& box =
+                 card.add("MoxieLook/MultiLineEditbox", "wrapped, scrolling", 10, 10, 300, 110);
+             box.setText("A multi-line edit box wraps its words at the edge of its frame and "
+                         "scrolls when the text is longer than the box is high.\n\nNew "
+                         "paragraphs start on their own line; the scroll bar follows the "
+                         "caret as you type, and the selection brush lies under selected "
+                         "text in every line it spans.");
+             static_cast<MultiLineEditbox&>(box).setSelection(2, 40);
+             Window& plain = card.add("MoxieLook/MultiLineEditbox", "read-only", 330, 10, 270, 110);
+             plain.setText("Short notes.\nSecond line.");
+             plain.setProperty("ReadOnly", "True");
+         }},
+        {"MoxieLook/Spinner", 60,
+         [](Card& card)
+         {
+             auto& integer =
+                 static_cast<Spinner&>(card.add("MoxieLook/Spinner", "integer", 10, 10, 120, 26));
+             integer.setMaximumValue(100);
+             integer.setCurrentValue(42);
+             auto& real = static_cast<Spinner&>(
+                 card.add("MoxieLook/Spinner", "floating, step 0.25", 160, 10, 120, 26));
+             real.setTextInputMode(Spinner::FloatingPoint);
+             real.setStepSize(0.25);
+             real.setCurrentValue(1.5);
+             auto& hex = static_cast<Spinner&>(
+                 card.add("MoxieLook/Spinner", "hexadecimal", 310, 10, 120, 26));
+             hex.setTextInputMode(Spinner::Hexadecimal);
+             hex.setMaximumValue(255);
+             hex.setCurrentValue(171);
+         }},
         {"MoxieLook/WidgetDropDownListbox", 150,
          [](Card& card)
          {

@@ -3,6 +3,7 @@
 // CEGUI's manager if the module goes away while it is still registered.
 #pragma once
 
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowRenderer.h>
 #include <CEGUI/WindowRendererManager.h>
@@ -11,13 +12,31 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-//! Base of the module's forwarding renderers. CEGUI's defaults for these two consult a
-//! Falagard look'n'feel, which the module's looks do not have.
-template <typename RendererBase>
+//! Base of the module's forwarding renderers. A renderer serves only windows of its own
+//! `Look`: set on any other window (through "WindowRenderer"), it refuses with CEGUI's
+//! InvalidRequestException and draws and answers nothing. CEGUI's defaults for the two
+//! overrides below consult a Falagard look'n'feel, which the module's looks do not have.
+template <typename RendererBase, typename Look>
 class LookRenderer : public RendererBase
 {
 public:
     using RendererBase::RendererBase;
+
+    void onAttach() override
+    {
+        RendererBase::onAttach();
+        d_look = dynamic_cast<Look*>(this->d_window);
+        if (!d_look)
+            throw InvalidRequestException(
+                "The window renderer '" + this->getName() + "' serves only its own look; '" +
+                this->d_window->getNamePath() + "' is a " + this->d_window->getType() + ".");
+    }
+
+    void onDetach() override
+    {
+        d_look = nullptr;
+        RendererBase::onDetach();
+    }
 
     Rectf getUnclippedInnerRect() const override
     {
@@ -31,6 +50,13 @@ public:
         this->d_window->invalidate();
         return true;
     }
+
+protected:
+    //! The look served, or null on a window it refused.
+    Look* look() const { return d_look; }
+
+private:
+    Look* d_look = nullptr;
 };
 
 template <typename Renderer>

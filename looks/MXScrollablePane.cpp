@@ -124,7 +124,9 @@ void MXScrollablePane::populateGeometryBuffer()
 
 Rectf MXScrollablePaneRenderer::getUnclippedInnerRect() const
 {
-    Rectf area = look().viewableArea();
+    if (!look())
+        return d_window->getUnclippedOuterRect().get();
+    Rectf area = look()->viewableArea();
     area.offset(d_window->getUnclippedOuterRect().get().d_min);
     return area;
 }

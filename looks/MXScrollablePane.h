@@ -61,19 +61,23 @@ private:
 };
 
 //! Forwards what CEGUI's ScrollablePane asks of a renderer to the look.
-class MXScrollablePaneRenderer : public LookRenderer<ScrollablePaneWindowRenderer>
+class MXScrollablePaneRenderer : public LookRenderer<ScrollablePaneWindowRenderer, MXScrollablePane>
 {
 public:
     static constexpr char TypeName[] = "MoxieLook/ScrollablePaneRenderer";
     using LookRenderer::LookRenderer;
 
-    void render() override { look().populateGeometryBuffer(); }
-    Rectf getViewableArea() const override { return look().viewableArea(); }
+    void render() override
+    {
+        if (look())
+            look()->populateGeometryBuffer();
+    }
+    Rectf getViewableArea() const override
+    {
+        return look() ? look()->viewableArea() : Rectf(0, 0, 0, 0);
+    }
     //! Content is clipped to the viewable area, not to the frame.
     Rectf getUnclippedInnerRect() const override;
-
-private:
-    MXScrollablePane& look() const { return *static_cast<MXScrollablePane*>(d_window); }
 };
 
 using MXScrollablePaneFactory = LookFactory<MXScrollablePane>;

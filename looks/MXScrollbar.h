@@ -118,22 +118,27 @@ public:
 };
 
 //! Forwards what CEGUI's Scrollbar asks of a renderer to the look.
-class MXScrollbarRenderer : public LookRenderer<ScrollbarWindowRenderer>
+class MXScrollbarRenderer : public LookRenderer<ScrollbarWindowRenderer, MXScrollbarBase>
 {
 public:
     static constexpr char TypeName[] = "MoxieLook/ScrollbarRenderer";
     using LookRenderer::LookRenderer;
 
-    void render() override { look().populateGeometryBuffer(); }
-    void updateThumb() override { look().updateThumb(); }
-    float getValueFromThumb() const override { return look().getValueFromThumb(); }
+    void render() override
+    {
+        if (look())
+            look()->populateGeometryBuffer();
+    }
+    void updateThumb() override
+    {
+        if (look())
+            look()->updateThumb();
+    }
+    float getValueFromThumb() const override { return look() ? look()->getValueFromThumb() : 0; }
     float getAdjustDirectionFromPoint(const Vector2f& point) const override
     {
-        return look().getAdjustDirectionFromPoint(point);
+        return look() ? look()->getAdjustDirectionFromPoint(point) : 0;
     }
-
-private:
-    MXScrollbarBase& look() const { return *static_cast<MXScrollbarBase*>(d_window); }
 };
 
 using MXHorzScrollbarFactory = LookFactory<MXHorzScrollbar>;

@@ -4,6 +4,8 @@
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
 #include "looks/MXDiagram.h"
+#include "looks/MXEditbox.h"
+#include "looks/MXMultiLineEditBox.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
@@ -11,6 +13,7 @@
 #include "looks/MXSelectableButtons.h"
 #include "looks/MXSlider.h"
 #include "looks/MXSmartButtonNodeItem.h"
+#include "looks/MXSpinner.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
 #include "looks/MXWidgetDropDownList.h"
@@ -29,6 +32,8 @@ namespace
 // One instance per type, built at load and destroyed at unload in reverse order.
 MXScrollbarRendererFactory s_scrollbarRenderer;
 MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
+MXEditboxRendererFactory s_editboxRenderer;
+MXMultiLineEditBoxRendererFactory s_multiLineEditBoxRenderer;
 
 MXStaticLayoutFactory s_staticLayout;
 MXStaticTextFactory s_staticText;
@@ -51,6 +56,9 @@ MXClockFactory s_clock;
 MXTreeViewFactory s_treeView;
 MXSmartButtonNodeItemFactory s_smartButtonNodeItem;
 MXDiagramFactory s_diagram;
+MXEditboxFactory s_editbox;
+MXMultiLineEditBoxFactory s_multiLineEditBox;
+MXSpinnerFactory s_spinner;
 MXWidgetDropDownListFactory s_widgetDropDownList;
 MXWidgetDropDownListboxFactory s_widgetDropDownListbox;
 MXProgressBarFactory s_progressBar;
@@ -66,6 +74,7 @@ const std::array k_table{
     FactoryEntry{MXStaticImageEx::WidgetTypeName, &s_staticImageEx, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
+    FactoryEntry{MXEditbox::WidgetTypeName, &s_editbox, &s_editboxRenderer},
     FactoryEntry{MXCheckbox::WidgetTypeName, &s_checkbox, nullptr},
     FactoryEntry{MXProgressBar::WidgetTypeName, &s_progressBar, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
@@ -76,6 +85,9 @@ const std::array k_table{
     FactoryEntry{MXHorzScrollbar::WidgetTypeName, &s_horzScrollbar, &s_scrollbarRenderer},
     FactoryEntry{MXWidgetDropDownList::WidgetTypeName, &s_widgetDropDownList, nullptr},
     FactoryEntry{MXWidgetDropDownListbox::WidgetTypeName, &s_widgetDropDownListbox, nullptr},
+    FactoryEntry{MXMultiLineEditBox::WidgetTypeName, &s_multiLineEditBox,
+                 &s_multiLineEditBoxRenderer},
+    FactoryEntry{MXSpinner::WidgetTypeName, &s_spinner, nullptr},
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},

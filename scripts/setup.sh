@@ -6,7 +6,7 @@ packages=(
     build-essential cmake pkg-config clang
     libcegui-mk2-dev libcegui-mk2-data fonts-dejavu-core
     googletest libgtest-dev libbenchmark-dev
-    libcairo2-dev locales-all
+    libcairo2-dev libpcre2-dev locales-all
     libglfw3-dev libglew-dev libpng-dev xvfb xauth libgl1-mesa-dri
 )
 

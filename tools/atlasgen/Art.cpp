@@ -575,7 +575,14 @@ void paintWidgets(Atlas& atlas)
                cairo_stroke(cr);
            });
 
+    // Edit boxes: sunken as lists are; the accent marks the focused one.
+    addRingFrame(atlas, frameNames("EditboxFrame"), 4, 2.0,
+                 {{Border, BorderLight}, {hex(0xD8DEE6), hex(0xF4F6F8)}});
+    addRingFrame(atlas, frameNames("EditboxFrameFocus"), 4, 2.0,
+                 {{Accent, Accent}, {AccentLight, hex(0xEEF4FD)}});
     addGradient(atlas, "EditboxFill", 4, 4, White, White);
+    addGradient(atlas, "EditboxFillReadOnly", 4, 4, Panel, Panel);
+    addGradient(atlas, "EditboxFillDisabled", 4, 4, DisabledFace, DisabledFace);
     addGradient(atlas, "EditboxCarat", 1, 16, Ink, Ink);
     addGradient(atlas, "EditboxSelection", 4, 4, hex(0xA9C8F2), hex(0xA9C8F2));
     addGradient(atlas, "EditboxSelectionInactive", 4, 4, hex(0xD5DCE5), hex(0xD5DCE5));

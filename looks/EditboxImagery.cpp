@@ -1,0 +1,81 @@
+#include "looks/EditboxImagery.h"
+
+#include "draw/Imagery.h"
+
+#include <CEGUI/Image.h>
+#include <CEGUI/Window.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour EditboxImagery::TextColour(0x0026313D);
+const Colour EditboxImagery::SelectedTextColour(0x00102A58);
+const Colour EditboxImagery::ReadOnlyTextColour(0x00465566);
+const Colour EditboxImagery::DisabledTextColour(0x009AA3AD);
+
+namespace
+{
+std::array<const char*, NinePieceFrame::PieceCount> pieces(const String& prefix,
+                                                           std::array<String, 8>& names)
+{
+    const char* suffixes[] = {"TopLeft", "TopRight", "BottomLeft", "BottomRight",
+                              "Left",    "Top",      "Right",      "Bottom"};
+    std::array<const char*, NinePieceFrame::PieceCount> result{};
+    for (int i = 0; i < 8; ++i)
+    {
+        names[i] = prefix + suffixes[i];
+        result[i] = names[i].c_str();
+    }
+    return result;
+}
+} // namespace
+
+EditboxImagery::EditboxImagery()
+    : d_fill(&lookImage(FillImageName)), d_readOnlyFill(&lookImage(ReadOnlyFillImageName)),
+      d_disabledFill(&lookImage(DisabledFillImageName)), d_caret(&lookImage(CaretImageName)),
+      d_selection(&lookImage(SelectionImageName)),
+      d_inactive(&lookImage(InactiveSelectionImageName))
+{
+    std::array<String, 8> names;
+    d_frame.setImages(pieces(FramePrefix, names));
+    d_focusFrame.setImages(pieces(FocusFramePrefix, names));
+}
+
+Rectf EditboxImagery::drawBox(const Window& window, GeometryBuffer& buffer, bool focused,
+                              bool readOnly, bool disabled) const
+{
+    const Rectf area(Vector2f(0, 0), window.getPixelSize());
+    const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), window.getEffectiveAlpha());
+    const Rectf inner = d_frame.innerRect(area);
+    (disabled   ? d_disabledFill
+     : readOnly ? d_readOnlyFill
+                : d_fill)
+        ->render(buffer, inner, nullptr, white);
+    NinePieceFrame& frame = focused && !disabled ? d_focusFrame : d_frame;
+    frame.setSize(area.getSize());
+    frame.setColours(white);
+    frame.draw(buffer, area.d_min, nullptr);
+    return inner;
+}
+
+const Colour& EditboxImagery::textColour(bool readOnly, bool disabled) const
+{
+    return disabled ? DisabledTextColour : readOnly ? ReadOnlyTextColour : TextColour;
+}
+
+float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
+                         float extentToCaret)
+{
+    if (lastOffset + extentToCaret < 0)
+        return -extentToCaret;
+    if (lastOffset + extentToCaret >= areaWidth - caretWidth)
+        return areaWidth - extentToCaret - caretWidth;
+    // A text that fits starts at the left: nothing is scrolled away then.
+    if (textExtent + caretWidth <= areaWidth)
+        return 0.0f;
+    return lastOffset;
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,199 @@
+#include "looks/MXMultiLineEditBox.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <algorithm>
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+MXMultiLineEditBox::MXMultiLineEditBox(const String& type, const String& name)
+    : RedrawnWhenUncovered<MultiLineEditbox>(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    setWindowRenderer(MXMultiLineEditBoxRenderer::TypeName);
+    setSelectionBrushImage(&lookImage(EditboxImagery::SelectionImageName));
+    // A caret that just moved is shown at once.
+    subscribeEvent(EventCaretMoved, [this] { restartBlink(); });
+}
+
+void MXMultiLineEditBox::initialiseComponents()
+{
+    // A box from a layout file may bring its bars already.
+    const std::pair<const String*, const char*> bars[] = {{&VertScrollbarName, VertScrollbarType},
+                                                          {&HorzScrollbarName, HorzScrollbarType}};
+    for (const auto& [name, type] : bars)
+        if (!isChild(*name))
+        {
+            Scrollbar* bar = createAutoPart<Scrollbar>(type, *name, "an edit box's scroll bar");
+            bar->setNonClient(true);
+            addChild(bar);
+        }
+    RedrawnWhenUncovered<MultiLineEditbox>::initialiseComponents();
+}
+
+void MXMultiLineEditBox::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    RedrawnWhenUncovered<MultiLineEditbox>::performChildWindowLayout(nonclientSizedHint,
+                                                                     clientSizedHint);
+    Window* vert = partOrNull(*this, VertScrollbarName);
+    Window* horz = partOrNull(*this, HorzScrollbarName);
+    if (!vert || !horz)
+        return;
+    const Rectf inner = d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    const float t = ScrollbarThickness;
+    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
+    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
+    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
+                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
+    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
+                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+}
+
+Rectf MXMultiLineEditBox::textRenderArea() const
+{
+    Rectf area = d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    const Window* vert = partOrNull(*this, VertScrollbarName);
+    const Window* horz = partOrNull(*this, HorzScrollbarName);
+    if (vert && vert->isVisible())
+        area.d_max.d_x -= ScrollbarThickness;
+    if (horz && horz->isVisible())
+        area.d_max.d_y -= ScrollbarThickness;
+    area.d_min.d_x += EditboxImagery::TextPadding;
+    area.d_max.d_x -= EditboxImagery::TextPadding;
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
+    return area;
+}
+
+void MXMultiLineEditBox::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const bool focused = hasInputFocus();
+    const bool disabled = isEffectiveDisabled();
+    d_imagery.drawBox(*this, buffer, focused, isReadOnly(), disabled);
+    const Rectf area = textRenderArea();
+    d_clipWatch.drawnWith(*this, getOuterRectClipper());
+    drawLines(buffer, area);
+
+    const Font* font = getFont();
+    if (!font || !focused || isReadOnly() || disabled || !d_caretShown)
+        return;
+    const LineList& lines = getFormattedLines();
+    const std::size_t line = getLineNumberFromIndex(getCaretIndex());
+    if (line >= lines.size())
+        return;
+    const std::size_t inLine = getCaretIndex() - lines[line].d_startIdx;
+    const float x = area.left() - getHorzScrollbar()->getScrollPosition() +
+                    font->getTextAdvance(getText().substr(lines[line].d_startIdx, inLine));
+    const float y = area.top() - getVertScrollbar()->getScrollPosition() +
+                    static_cast<float>(line) * font->getLineSpacing();
+    const float width = d_imagery.caret().getRenderedSize().d_width;
+    d_imagery.caret().render(
+        buffer, Rectf(std::floor(x), y, std::floor(x) + width, y + font->getLineSpacing()), &area,
+        withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+}
+
+void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
+{
+    const Font* font = getFont();
+    if (!font)
+        return;
+    const float alpha = getEffectiveAlpha();
+    const float spacing = font->getLineSpacing();
+    const ColourRect normal(
+        withAlpha(d_imagery.textColour(isReadOnly(), isEffectiveDisabled()), alpha));
+    const ColourRect selectedText(withAlpha(EditboxImagery::SelectedTextColour, alpha));
+    const ColourRect brush = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
+    const Image& selection =
+        getSelectionBrushImage() ? *getSelectionBrushImage() : d_imagery.selection(hasInputFocus());
+    const LineList& lines = getFormattedLines();
+    const String& text = getTextVisual();
+    const float left = area.left() - getHorzScrollbar()->getScrollPosition();
+    const float scroll = getVertScrollbar()->getScrollPosition();
+
+    // Only the lines in view: from the first the scroll position reaches, one area high.
+    const std::size_t first = static_cast<std::size_t>(std::max(0.0f, scroll / spacing));
+    const std::size_t last =
+        std::min(lines.size(), first + 2 + static_cast<std::size_t>(area.getHeight() / spacing));
+    const std::size_t selStart = getSelectionStartIndex();
+    const std::size_t selEnd = getSelectionEndIndex();
+    for (std::size_t i = first; i < last; ++i)
+    {
+        const LineInfo& line = lines[i];
+        const float top = area.top() - scroll + static_cast<float>(i) * spacing;
+        const String lineText = text.substr(line.d_startIdx, line.d_length);
+        const std::size_t lineEnd = line.d_startIdx + line.d_length;
+        if (selEnd <= line.d_startIdx || selStart >= lineEnd || selStart == selEnd)
+        {
+            font->drawText(buffer, lineText, Vector2f(left, top), &area, normal);
+            continue;
+        }
+        const std::size_t from = std::max(selStart, line.d_startIdx) - line.d_startIdx;
+        const std::size_t to = std::min(selEnd, lineEnd) - line.d_startIdx;
+        const float fromX = left + font->getTextAdvance(lineText.substr(0, from));
+        const float toX = left + font->getTextAdvance(lineText.substr(0, to));
+        selection.render(buffer, Rectf(fromX, top, toX, top + spacing), &area, brush);
+        float x =
+            font->drawText(buffer, lineText.substr(0, from), Vector2f(left, top), &area, normal);
+        x = font->drawText(buffer, lineText.substr(from, to - from), Vector2f(x, top), &area,
+                           selectedText);
+        font->drawText(buffer, lineText.substr(to), Vector2f(x, top), &area, normal);
+    }
+}
+
+void MXMultiLineEditBox::notifyScreenAreaChanged(bool recursive)
+{
+    RedrawnWhenUncovered<MultiLineEditbox>::notifyScreenAreaChanged(recursive);
+    if (d_clipWatch.uncovers(*this, getOuterRectClipper()))
+        invalidate(false);
+}
+
+void MXMultiLineEditBox::updateCaretBlink(float elapsed)
+{
+    if (!hasInputFocus() || isReadOnly())
+        return;
+    d_blinkElapsed += elapsed;
+    if (d_blinkElapsed > CaretBlinkTime)
+    {
+        d_blinkElapsed = 0;
+        d_caretShown = !d_caretShown;
+        invalidate();
+    }
+}
+
+void MXMultiLineEditBox::restartBlink()
+{
+    d_blinkElapsed = 0;
+    d_caretShown = true;
+    invalidate();
+}
+
+void MXMultiLineEditBox::onTextChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<MultiLineEditbox>::onTextChanged(e);
+    restartBlink();
+}
+
+void MXMultiLineEditBox::onActivated(ActivationEventArgs& e)
+{
+    RedrawnWhenUncovered<MultiLineEditbox>::onActivated(e);
+    restartBlink();
+}
+
+void MXMultiLineEditBox::onDeactivated(ActivationEventArgs& e)
+{
+    RedrawnWhenUncovered<MultiLineEditbox>::onDeactivated(e);
+    invalidate();
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,243 @@
+#include "looks/MXEditbox.h"
+#include "looks/MXMultiLineEditBox.h"
+#include "looks/MXProgressBar.h"
+#include "looks/MXSpinner.h"
+#include "support/DrawnQuads.h"
+#include "support/Gui.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <gtest/gtest.h>
+
+using namespace CEGUI;
+using namespace CEGUI::MoxieLook;
+using moxietest::context;
+using moxietest::drawnBy;
+
+namespace
+{
+void type(const std::string& text)
+{
+    for (char c : text)
+        context().injectChar(static_cast<utf32>(c));
+}
+
+void key(Key::Scan scan)
+{
+    context().injectKeyDown(scan);
+    context().injectKeyUp(scan);
+}
+
+class EditboxTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        moxietest::freshSheet();
+        box = static_cast<MXEditbox*>(&moxietest::place("MoxieLook/Editbox", 10, 10, 200, 26));
+    }
+
+    //! Screen x of the boundary before character `index` of the box's text.
+    float boundaryX(std::size_t index) const
+    {
+        const Font& font = *box->getFont();
+        return box->getUnclippedOuterRect().get().left() + box->textArea().left() +
+               box->textOffset() + font.getTextAdvance(box->visualText().substr(0, index));
+    }
+
+    MXEditbox* box = nullptr;
+};
+} // namespace
+
+TEST_F(EditboxTest, TypingCaretClicksAndSelections)
+{
+    moxietest::pointerTo(100, 20);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    ASSERT_TRUE(box->hasInputFocus());
+    type("Hello world");
+    EXPECT_EQ(box->getText(), "Hello world");
+    EXPECT_EQ(box->getCaretIndex(), 11u);
+    key(Key::ArrowLeft);
+    key(Key::Backspace);
+    EXPECT_EQ(box->getText(), "Hello word");
+
+    // A click lands on the glyph boundary nearest the pointer.
+    drawnBy(*box);
+    const float between = (boundaryX(4) + boundaryX(5)) / 2;
+    moxietest::pointerTo(boundaryX(4) + 1, 20);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(box->getCaretIndex(), 4u);
+    moxietest::pointerTo(between + 1.5f, 20);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(box->getCaretIndex(), 5u);
+
+    // Dragging selects; so do shift and the arrows.
+    moxietest::pointerTo(boundaryX(0) + 1, 20);
+    moxietest::leftDown();
+    moxietest::pointerTo(boundaryX(5) + 1, 20);
+    moxietest::leftUp();
+    EXPECT_EQ(box->getSelectionStartIndex(), 0u);
+    EXPECT_EQ(box->getSelectionEndIndex(), 5u);
+    key(Key::End);
+    context().injectKeyDown(Key::LeftShift);
+    key(Key::ArrowLeft);
+    key(Key::ArrowLeft);
+    context().injectKeyUp(Key::LeftShift);
+    EXPECT_EQ(box->getSelectionLength(), 2u);
+    const auto quads = drawnBy(*box);
+    const auto brush =
+        std::find_if(quads.begin(), quads.end(),
+                     [](const moxietest::DrawnQuad& q) { return q.image == "EditboxSelection"; });
+    ASSERT_NE(brush, quads.end());
+    EXPECT_NEAR(brush->rect.getWidth(), box->getFont()->getTextAdvance("rd"), 0.5f);
+    EXPECT_EQ(quads[0].image, "EditboxFill"); // under the focused frame
+    EXPECT_EQ(quads[1].image, "EditboxFrameFocusTopLeft");
+}
+
+TEST_F(EditboxTest, LongTextsScrollToKeepTheCaretInView)
+{
+    box->activate();
+    type(std::string(80, 'm'));
+    drawnBy(*box);
+    const float caretX = boundaryX(80);
+    const Rectf area = box->textArea();
+    const float left = box->getUnclippedOuterRect().get().left();
+    EXPECT_LT(box->textOffset(), 0);
+    EXPECT_LE(caretX, left + area.right());
+    EXPECT_GE(caretX, left + area.left());
+    key(Key::Home);
+    drawnBy(*box);
+    EXPECT_EQ(box->textOffset(), 0);
+}
+
+TEST_F(EditboxTest, MaskReadOnlyPlaceholderAndSelectAllOnFocus)
+{
+    box->setProperty("PlaceholderText", "Search...");
+    auto quads = drawnBy(*box);
+    EXPECT_EQ(quads.back().image, "text");
+    EXPECT_EQ(moxietest::argb(quads.back().colours.d_top_left), 0xFF8C99A8u);
+    EXPECT_TRUE(box->isPlaceholderShown());
+    box->activate();
+    EXPECT_FALSE(box->isPlaceholderShown());
+
+    box->setText("secret");
+    box->setTextMasked(true);
+    EXPECT_EQ(box->visualText(), String(6, box->getMaskCodePoint()));
+
+    box->setReadOnly(true);
+    type("x");
+    EXPECT_EQ(box->getText(), "secret");
+    quads = drawnBy(*box);
+    EXPECT_EQ(quads[0].image, "EditboxFillReadOnly");
+
+    // A click that gives focus selects everything, with the property on.
+    Window& other = moxietest::place("MoxieLook/Editbox", 10, 60, 200, 26);
+    other.setText("all of it");
+    other.setProperty("SelectAllOnFocus", "True");
+    moxietest::pointerTo(60, 70);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(static_cast<Editbox&>(other).getSelectionLength(), 9u);
+    moxietest::leftDown(); // already focused: a plain click
+    moxietest::leftUp();
+    EXPECT_EQ(static_cast<Editbox&>(other).getSelectionLength(), 0u);
+}
+
+TEST_F(EditboxTest, ValidationRejectsWrongInputAndAcceptsPartial)
+{
+    box->setProperty("ValidationString", "[0-9]{2}-[0-9]{2}");
+    box->activate();
+    type("12-");
+    EXPECT_EQ(box->getText(), "12-"); // partial: still being typed
+    type("x");
+    EXPECT_EQ(box->getText(), "12-");
+    type("34");
+    EXPECT_EQ(box->getText(), "12-34");
+    EXPECT_THROW(box->setProperty("ValidationString", "([0-9"), InvalidRequestException);
+    // A host's handler decides over the default.
+    box->setProperty("ValidationString", "[a-z]*");
+    box->subscribeEvent(Editbox::EventTextValidityChanged, [] { return true; });
+    box->setText("");
+    type("A");
+    EXPECT_EQ(box->getText(), "A");
+}
+
+TEST_F(EditboxTest, MultiLineTextWrapsAndScrollsToTheCaret)
+{
+    auto& lines = static_cast<MXMultiLineEditBox&>(
+        moxietest::place("MoxieLook/MultiLineEditbox", 10, 60, 160, 50));
+    lines.activate();
+    type("one two three four five six seven eight nine ten eleven twelve thirteen fourteen");
+    EXPECT_GT(lines.getFormattedLines().size(), 3u); // wrapped
+    const Rectf area = lines.textRenderArea();
+    EXPECT_LE(area.right(), 160 - 2 - MXMultiLineEditBox::ScrollbarThickness);
+    Scrollbar* bar = lines.getVertScrollbar();
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_GT(bar->getScrollPosition(), 0); // the caret, at the end, is in view
+    key(Key::Home);
+    context().injectKeyDown(Key::LeftControl);
+    key(Key::Home);
+    context().injectKeyUp(Key::LeftControl);
+    EXPECT_EQ(bar->getScrollPosition(), 0);
+
+    lines.setSelection(4, 12);
+    const auto quads = drawnBy(lines);
+    EXPECT_NE(std::find_if(quads.begin(), quads.end(),
+                           [](const moxietest::DrawnQuad& q)
+                           { return q.image == "EditboxSelection"; }),
+              quads.end());
+}
+
+TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
+{
+    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 10, 100, 120, 26));
+    spinner.setMaximumValue(10);
+    spinner.setCurrentValue(5);
+    const Rectf up = spinner.getChild(Spinner::IncreaseButtonName)->getUnclippedOuterRect().get();
+    moxietest::pointerTo(up.left() + 4, up.top() + 4);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(spinner.getCurrentValue(), 6);
+    const Rectf down = spinner.getChild(Spinner::DecreaseButtonName)->getUnclippedOuterRect().get();
+    moxietest::pointerTo(down.left() + 4, down.top() + 4);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(spinner.getCurrentValue(), 4);
+
+    // Each text mode validates what is typed into its edit box.
+    for (Spinner::TextInputMode mode :
+         {Spinner::FloatingPoint, Spinner::Integer, Spinner::Hexadecimal, Spinner::Octal})
+        EXPECT_NO_THROW(spinner.setTextInputMode(mode)) << mode;
+    spinner.setTextInputMode(Spinner::Integer);
+    auto& edit = static_cast<Editbox&>(*spinner.getChild(Spinner::EditboxName));
+    edit.activate();
+    key(Key::End);
+    key(Key::Backspace);
+    type("7x");
+    EXPECT_EQ(spinner.getCurrentValue(), 7);
+    EXPECT_EQ(edit.getText(), "7");
+}
+
+TEST_F(EditboxTest, ProgressBarFillsAsFarAsItsProgress)
+{
+    auto& bar =
+        static_cast<MXProgressBar&>(moxietest::place("MoxieLook/ProgressBar", 10, 150, 200, 16));
+    for (const auto& [progress, width] :
+         {std::pair<float, float>{0.0f, 0.0f}, {0.6f, 120.0f}, {1.0f, 200.0f}})
+    {
+        bar.setProgress(progress);
+        EXPECT_EQ(bar.litWidth(), width);
+        float lit = 0;
+        for (const moxietest::DrawnQuad& q : drawnBy(bar))
+            if (q.image.rfind("ProgressBarLit", 0) == 0)
+                lit = std::max(lit, q.rect.right());
+        EXPECT_EQ(lit, width) << progress;
+    }
+}
