@@ -4,6 +4,7 @@
 
 #include <CEGUI/Rect.h>
 #include <CEGUI/String.h>
+#include <functional>
 #include <vector>
 
 namespace CEGUI
@@ -24,6 +25,7 @@ public:
         CEGUI::String type;
         CEGUI::Window* card;
         CEGUI::Window* hoverTarget;
+        std::function<void()> whenShown;
     };
     const std::vector<CardInfo>& cards() const { return d_cards; }
 

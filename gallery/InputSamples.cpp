@@ -2,7 +2,11 @@
 #include "Samples.h"
 #include "widgets/WidgetDropDownListbox.h"
 
+#include <CEGUI/widgets/ComboDropList.h>
+#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/Listbox.h>
+#include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/MultiLineEditbox.h>
 #include <CEGUI/widgets/ProgressBar.h>
 #include <CEGUI/widgets/Spinner.h>
@@ -14,6 +18,64 @@ using namespace CEGUI;
 std::vector<Sample> inputSamples()
 {
     return {
+        {"MoxieLook/Listbox", 140,
+         [](Card& card)
+         {
+             auto& list = static_cast<Listbox&>(
+                 card.add("MoxieLook/Listbox", "a selection, a scroll bar", 10, 10, 200, 110));
+             const char* fruits[] = {"Apples", "Bananas", "Cherries", "Dates", "Elderberries",
+                                     "Figs",   "Grapes",  "Honeydew", "Kiwis", "Lemons"};
+             for (const char* fruit : fruits)
+                 list.addItem(new ListboxTextItem(fruit));
+             list.setItemSelectState(2, true);
+             card.hoverOn(list);
+             auto& multi = static_cast<Listbox&>(
+                 card.add("MoxieLook/Listbox", "multiple selection", 230, 10, 160, 110));
+             multi.setMultiselectEnabled(true);
+             for (int i = 1; i <= 5; ++i)
+                 multi.addItem(new ListboxTextItem("Option " + PropertyHelper<int>::toString(i)));
+             multi.setItemSelectState(std::size_t(0), true);
+             multi.setItemSelectState(3, true);
+             auto& disabled = static_cast<Listbox&>(
+                 card.add("MoxieLook/Listbox", "disabled", 410, 10, 180, 110));
+             disabled.addItem(new ListboxTextItem("Nothing to pick"));
+             disabled.setEnabled(false);
+         }},
+        {"MoxieLook/Combobox", 170,
+         [](Card& card)
+         {
+             auto fill = [](Combobox& box)
+             {
+                 for (const char* city : {"Amsterdam", "Berlin", "Copenhagen", "Dublin",
+                                          "Edinburgh", "Florence", "Geneva", "Helsinki"})
+                     box.addItem(new ListboxTextItem(city));
+             };
+             auto& closed = static_cast<Combobox&>(
+                 card.add("MoxieLook/Combobox", "closed, a city chosen", 10, 10, 200, 140));
+             fill(closed);
+             closed.setItemSelectState(std::size_t(1), true);
+             closed.setText("Berlin");
+             auto& open =
+                 static_cast<Combobox&>(card.add("MoxieLook/Combobox", "", 240, 10, 200, 140));
+             fill(open);
+             open.setText("Dublin");
+             card.whenShown([&open] { open.showDropList(); });
+             card.hoverOn(*open.getDropList());
+             auto& readOnly = static_cast<Combobox&>(
+                 card.add("MoxieLook/Combobox", "read-only", 470, 10, 130, 140));
+             fill(readOnly);
+             readOnly.setReadOnly(true);
+             readOnly.setText("Geneva");
+         }},
+        {"MoxieLook/ComboDropList", 100,
+         [](Card& card)
+         {
+             auto& list = static_cast<Listbox&>(
+                 card.add("MoxieLook/ComboDropList", "a drop list on its own", 10, 10, 200, 80));
+             for (const char* item : {"First", "Second", "Third", "Fourth", "Fifth", "Sixth"})
+                 list.addItem(new ListboxTextItem(item));
+             list.setItemSelectState(1, true);
+         }},
         {"MoxieLook/Editbox", 110,
          [](Card& card)
          {

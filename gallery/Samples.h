@@ -43,10 +43,15 @@ public:
     //! The window the pointer rests on when the card is photographed.
     void hoverOn(CEGUI::Window& window) { d_hoverTarget = &window; }
     CEGUI::Window* hoverTarget() const { return d_hoverTarget; }
+    //! What to do when the card is about to be seen (open a list that would close while
+    //! the other cards are built).
+    void whenShown(std::function<void()> action) { d_whenShown = std::move(action); }
+    const std::function<void()>& shownAction() const { return d_whenShown; }
 
 private:
     CEGUI::Window& d_content;
     CEGUI::Window* d_hoverTarget = nullptr;
+    std::function<void()> d_whenShown;
     std::vector<CEGUI::Window*> d_windows;
 };
 

@@ -181,6 +181,8 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
     for (const gallery::GalleryPage::CardInfo& card : page.cards())
     {
         const Rectf area = page.bringIntoView(card);
+        if (card.whenShown)
+            card.whenShown();
         Window* target = card.hoverTarget;
         const Vector2f rest = target ? target->getUnclippedOuterRect().get().getPosition() +
                                            Vector2f(target->getPixelSize().d_width / 2,
@@ -274,6 +276,9 @@ int main(int argc, char** argv)
         else
         {
             forwardInput(window, page);
+            for (const gallery::GalleryPage::CardInfo& card : page.cards())
+                if (card.whenShown)
+                    card.whenShown();
             double last = glfwGetTime();
             while (!glfwWindowShouldClose(window))
             {

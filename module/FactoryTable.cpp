@@ -3,8 +3,10 @@
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
+#include "looks/MXCombobox.h"
 #include "looks/MXDiagram.h"
 #include "looks/MXEditbox.h"
+#include "looks/MXListbox.h"
 #include "looks/MXMultiLineEditBox.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
@@ -34,6 +36,7 @@ MXScrollbarRendererFactory s_scrollbarRenderer;
 MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
 MXEditboxRendererFactory s_editboxRenderer;
 MXMultiLineEditBoxRendererFactory s_multiLineEditBoxRenderer;
+MXListboxRendererFactory s_listboxRenderer;
 
 MXStaticLayoutFactory s_staticLayout;
 MXStaticTextFactory s_staticText;
@@ -59,6 +62,9 @@ MXDiagramFactory s_diagram;
 MXEditboxFactory s_editbox;
 MXMultiLineEditBoxFactory s_multiLineEditBox;
 MXSpinnerFactory s_spinner;
+MXListboxFactory s_listbox;
+MXComboDropListFactory s_comboDropList;
+MXComboboxFactory s_combobox;
 MXWidgetDropDownListFactory s_widgetDropDownList;
 MXWidgetDropDownListboxFactory s_widgetDropDownListbox;
 MXProgressBarFactory s_progressBar;
@@ -83,6 +89,9 @@ const std::array k_table{
     FactoryEntry{MXVertScrollbar::WidgetTypeName, &s_vertScrollbar, &s_scrollbarRenderer},
     FactoryEntry{MXHorzScrollbarThumb::WidgetTypeName, &s_horzScrollbarThumb, nullptr},
     FactoryEntry{MXHorzScrollbar::WidgetTypeName, &s_horzScrollbar, &s_scrollbarRenderer},
+    FactoryEntry{MXListbox::WidgetTypeName, &s_listbox, &s_listboxRenderer},
+    FactoryEntry{MXComboDropList::WidgetTypeName, &s_comboDropList, &s_listboxRenderer},
+    FactoryEntry{MXCombobox::WidgetTypeName, &s_combobox, nullptr},
     FactoryEntry{MXWidgetDropDownList::WidgetTypeName, &s_widgetDropDownList, nullptr},
     FactoryEntry{MXWidgetDropDownListbox::WidgetTypeName, &s_widgetDropDownListbox, nullptr},
     FactoryEntry{MXMultiLineEditBox::WidgetTypeName, &s_multiLineEditBox,

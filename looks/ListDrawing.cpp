@@ -1,0 +1,204 @@
+#include "looks/ListDrawing.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+
+#include <CEGUI/CoordConverter.h>
+#include <CEGUI/System.h>
+#include <CEGUI/widgets/Listbox.h>
+#include <CEGUI/widgets/ListboxTextItem.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <algorithm>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour ListDrawing::ItemTextColour(0xFF26313D);
+
+namespace
+{
+bool sameColour(const ColourRect& colours, const Colour& colour)
+{
+    return colours.d_top_left == colour && colours.d_top_right == colour &&
+           colours.d_bottom_left == colour && colours.d_bottom_right == colour;
+}
+} // namespace
+
+ListDrawing::ListDrawing(const char* framePrefix, const char* fill)
+    : d_fill(&lookImage(fill)), d_selectionBrush(&lookImage(SelectionBrushImageName)),
+      d_hoverBrush(&lookImage(HoverBrushImageName))
+{
+    const String prefix(framePrefix);
+    const String names[8] = {prefix + "TopLeft",     prefix + "TopRight", prefix + "BottomLeft",
+                             prefix + "BottomRight", prefix + "Left",     prefix + "Top",
+                             prefix + "Right",       prefix + "Bottom"};
+    d_frame.setImages({names[0].c_str(), names[1].c_str(), names[2].c_str(), names[3].c_str(),
+                       names[4].c_str(), names[5].c_str(), names[6].c_str(), names[7].c_str()});
+}
+
+void ListDrawing::makeParts(Listbox& list) const
+{
+    const std::pair<const String*, const char*> bars[] = {
+        {&Listbox::VertScrollbarName, VertScrollbarType},
+        {&Listbox::HorzScrollbarName, HorzScrollbarType}};
+    for (const auto& [name, type] : bars)
+        if (!list.isChild(*name))
+        {
+            Scrollbar* bar = createAutoPart<Scrollbar>(type, *name, "a list's scroll bar");
+            bar->setNonClient(true);
+            list.addChild(bar);
+        }
+}
+
+void ListDrawing::layOutParts(Listbox& list) const
+{
+    Window* vert = partOrNull(list, Listbox::VertScrollbarName);
+    Window* horz = partOrNull(list, Listbox::HorzScrollbarName);
+    if (!vert || !horz)
+        return;
+    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize()));
+    const float t = ScrollbarThickness;
+    vert->setArea(
+        UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
+        USize(cegui_absdim(t),
+              cegui_absdim(std::max(0.0f, inner.getHeight() - (horz->isVisible() ? t : 0)))));
+    horz->setArea(
+        UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
+        USize(cegui_absdim(std::max(0.0f, inner.getWidth() - (vert->isVisible() ? t : 0))),
+              cegui_absdim(t)));
+}
+
+Rectf ListDrawing::renderArea(const Listbox& list) const
+{
+    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize()));
+    const Window* vert = partOrNull(list, Listbox::VertScrollbarName);
+    const Window* horz = partOrNull(list, Listbox::HorzScrollbarName);
+    if (vert && vert->isVisible())
+        area.d_max.d_x -= ScrollbarThickness;
+    if (horz && horz->isVisible())
+        area.d_max.d_y -= ScrollbarThickness;
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
+    return area;
+}
+
+void ListDrawing::contentsChanged(Listbox& list)
+{
+    d_measured = false;
+    d_hovered = nullptr;
+    for (std::size_t i = 0; i < list.getItemCount(); ++i)
+    {
+        ListboxItem* item = list.getListboxItemFromIndex(i);
+        if (!item->getSelectionBrushImage())
+            item->setSelectionBrushImage(d_selectionBrush);
+        // CEGUI tints the brush dark blue by default; this brush is coloured already.
+        if (sameColour(item->getSelectionColours(), ListboxItem::DefaultSelectionColour))
+            item->setSelectionColours(Colour(0xFFFFFFFF));
+        // CEGUI's default text colour is white, for dark skins; on this light list a host's
+        // own choice is kept, the default becomes ink.
+        if (auto* text = dynamic_cast<ListboxTextItem*>(item))
+        {
+            if (sameColour(text->getTextColours(), ListboxTextItem::DefaultTextColour))
+                text->setTextColours(ItemTextColour);
+        }
+    }
+}
+
+void ListDrawing::measure(const Listbox& list)
+{
+    const std::size_t count = list.getItemCount();
+    d_tops.assign(1, 0.0f);
+    d_tops.reserve(count + 1);
+    d_widest = 0;
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        const Sizef size = list.getListboxItemFromIndex(i)->getPixelSize();
+        d_tops.push_back(d_tops.back() + size.d_height);
+        d_widest = std::max(d_widest, size.d_width);
+    }
+    d_measured = true;
+}
+
+ListboxItem* ListDrawing::itemAt(const Listbox& list, const Vector2f& screenPoint)
+{
+    if (!d_measured)
+        measure(list);
+    const Rectf area = renderArea(list);
+    const Vector2f local = CoordConverter::screenToWindow(list, screenPoint);
+    if (!area.isPointInRect(local))
+        return nullptr;
+    const float y = local.d_y - area.top() + list.getVertScrollbar()->getScrollPosition();
+    const auto above = std::upper_bound(d_tops.begin(), d_tops.end(), y);
+    if (above == d_tops.begin() || above == d_tops.end())
+        return nullptr;
+    const std::size_t index = static_cast<std::size_t>(above - d_tops.begin()) - 1;
+    return index < list.getItemCount() ? list.getListboxItemFromIndex(index) : nullptr;
+}
+
+bool ListDrawing::setHovered(ListboxItem* item)
+{
+    if (item == d_hovered)
+        return false;
+    d_hovered = item;
+    return true;
+}
+
+void ListDrawing::draw(Listbox& list)
+{
+    if (!hasVisibleArea(list))
+        return;
+    GeometryBuffer& buffer = list.getGeometryBuffer();
+    const float alpha = list.getEffectiveAlpha();
+    const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
+    const Rectf outer(Vector2f(0, 0), list.getPixelSize());
+    d_fill->render(buffer, d_frame.innerRect(outer), nullptr, white);
+    d_frame.setSize(outer.getSize());
+    d_frame.setColours(white);
+    d_frame.draw(buffer, Vector2f(0, 0), nullptr);
+
+    if (!d_measured)
+        measure(list);
+    const Rectf area = renderArea(list);
+    const float left = area.left() - list.getHorzScrollbar()->getScrollPosition();
+    const float top = area.top() - list.getVertScrollbar()->getScrollPosition();
+    const float width = std::max(area.getWidth(), d_widest);
+    // A disabled list shows its items faded.
+    const float itemAlpha = list.isEffectiveDisabled() ? alpha * 0.5f : alpha;
+    // The first item that reaches into the area, then on until one starts below it.
+    auto first = std::upper_bound(d_tops.begin(), d_tops.end(), area.top() - top);
+    std::size_t index =
+        first == d_tops.begin() ? 0 : static_cast<std::size_t>(first - d_tops.begin()) - 1;
+    const std::size_t count = std::min(list.getItemCount(), d_tops.size() - 1);
+    for (; index < count && top + d_tops[index] < area.bottom(); ++index)
+    {
+        ListboxItem* item = list.getListboxItemFromIndex(index);
+        const Rectf rect(left, top + d_tops[index], left + width, top + d_tops[index + 1]);
+        const Rectf clip = rect.getIntersection(area);
+        if (clip.getWidth() <= 0 || clip.getHeight() <= 0)
+            continue;
+        if (item == d_hovered && !item->isSelected())
+            d_hoverBrush->render(buffer, rect, &clip, white);
+        item->draw(buffer, rect, itemAlpha, &clip);
+    }
+}
+
+void ListDrawing::resizeToContent(Listbox& list, bool fitWidth, bool fitHeight)
+{
+    measure(list);
+    const Rectf outer(Vector2f(0, 0), list.getPixelSize());
+    const Rectf inner = d_frame.innerRect(outer);
+    const Sizef frame(outer.getWidth() - inner.getWidth(), outer.getHeight() - inner.getHeight());
+    const Sizef display = System::getSingleton().getRenderer()->getDisplaySize();
+    const Vector2f at = list.getUnclippedOuterRect().get().d_min;
+    Sizef size = list.getPixelSize();
+    if (fitWidth)
+        size.d_width = std::min(d_widest + frame.d_width, std::max(0.0f, display.d_width - at.d_x));
+    if (fitHeight)
+        size.d_height =
+            std::min(d_tops.back() + frame.d_height, std::max(0.0f, display.d_height - at.d_y));
+    list.setSize(USize(cegui_absdim(size.d_width), cegui_absdim(size.d_height)));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

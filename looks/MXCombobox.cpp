@@ -1,0 +1,144 @@
+#include "looks/MXCombobox.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+#include "widgets/PushButtonEx.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/widgets/ComboDropList.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ListboxItem.h>
+#include <algorithm>
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+MXCombobox::MXCombobox(const String& type, const String& name)
+    : RedrawnWhenUncovered<Combobox>(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
+void MXCombobox::initialiseComponents()
+{
+    if (!isChild(EditboxName))
+        addChild(createAutoPart<Editbox>(EditboxType, EditboxName, "a combo box's edit area"));
+    if (!isChild(DropListName))
+        addChild(createAutoPart<ComboDropList>(DropListType, DropListName, "a combo box's list"));
+    if (!isChild(ButtonName))
+    {
+        PushButton* button =
+            createAutoPart<PushButton>(ButtonType, ButtonName, "a combo box's button");
+        if (auto* pictured = dynamic_cast<PushButtonEx*>(button))
+        {
+            FormattedImage picture;
+            picture.setHorzFormatting(FormattedImage::HorzStretched);
+            picture.setVertFormatting(FormattedImage::VertStretched);
+            pictured->setStandardImageryEnabled(false);
+            pictured->setCustomImageryAutoSized(true);
+            picture.setImage(&lookImage(ButtonNormalImageName));
+            pictured->setNormalImage(&picture);
+            pictured->setDisabledImage(&picture);
+            picture.setImage(&lookImage(ButtonHoverImageName));
+            pictured->setHoverImage(&picture);
+            picture.setImage(&lookImage(ButtonPushedImageName));
+            pictured->setPushedImage(&picture);
+        }
+        addChild(button);
+    }
+    RedrawnWhenUncovered<Combobox>::initialiseComponents();
+    getEditbox()->subscribeEvent(EventKeyDown, Event::Subscriber(&MXCombobox::editKeyDown, this));
+    getDropList()->subscribeEvent(EventKeyDown, Event::Subscriber(&MXCombobox::listKeyDown, this));
+}
+
+void MXCombobox::stepSelection(int step)
+{
+    ComboDropList* list = getDropList();
+    const std::size_t count = list->getItemCount();
+    if (count == 0)
+        return;
+    const ListboxItem* selected = list->getFirstSelectedItem();
+    std::size_t index = step > 0 ? 0 : count - 1;
+    if (selected)
+    {
+        const std::size_t at = list->getItemIndex(selected);
+        index = step > 0 ? std::min(count - 1, at + 1) : (at == 0 ? 0 : at - 1);
+    }
+    list->clearAllSelections();
+    list->setItemSelectState(index, true);
+    list->ensureItemIsVisible(index);
+}
+
+bool MXCombobox::editKeyDown(const EventArgs& args)
+{
+    const auto& key = static_cast<const KeyEventArgs&>(args);
+    if (key.scancode != Key::ArrowDown && key.scancode != Key::ArrowUp)
+        return false;
+    stepSelection(key.scancode == Key::ArrowDown ? 1 : -1);
+    if (const ListboxItem* item = getDropList()->getFirstSelectedItem())
+        setText(item->getText());
+    return true;
+}
+
+bool MXCombobox::listKeyDown(const EventArgs& args)
+{
+    const auto& key = static_cast<const KeyEventArgs&>(args);
+    switch (key.scancode)
+    {
+    case Key::ArrowDown:
+    case Key::ArrowUp:
+        stepSelection(key.scancode == Key::ArrowDown ? 1 : -1);
+        return true;
+    case Key::Return:
+    case Key::NumpadEnter:
+    {
+        // As a click on the item: the combo box takes its text and closes the list.
+        WindowEventArgs accepted(getDropList());
+        getDropList()->fireEvent(ComboDropList::EventListSelectionAccepted, accepted,
+                                 ComboDropList::EventNamespace);
+        hideDropList();
+        return true;
+    }
+    case Key::Escape:
+        hideDropList();
+        return true;
+    default:
+        return false;
+    }
+}
+
+float MXCombobox::editHeight() const
+{
+    const Font* font = getFont();
+    const float wanted = (font ? font->getLineSpacing() : 14.0f) + 2 * EditPadding;
+    return std::min(std::ceil(wanted), getPixelSize().d_height);
+}
+
+void MXCombobox::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    RedrawnWhenUncovered<Combobox>::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
+    Window* edit = partOrNull(*this, EditboxName);
+    Window* list = partOrNull(*this, DropListName);
+    Window* button = partOrNull(*this, ButtonName);
+    if (!edit || !list || !button)
+        return;
+    const Sizef own = getPixelSize();
+    const float h = editHeight();
+    edit->setArea(UVector2(cegui_absdim(0), cegui_absdim(0)),
+                  USize(cegui_absdim(std::max(0.0f, own.d_width - h)), cegui_absdim(h)));
+    button->setArea(UVector2(cegui_absdim(std::max(0.0f, own.d_width - h)), cegui_absdim(0)),
+                    USize(cegui_absdim(std::min(h, own.d_width)), cegui_absdim(h)));
+    list->setArea(UVector2(cegui_absdim(0), cegui_absdim(h)),
+                  USize(cegui_absdim(own.d_width), cegui_absdim(std::max(0.0f, own.d_height - h))));
+}
+
+void MXCombobox::onFontChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<Combobox>::onFontChanged(e);
+    performChildWindowLayout();
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,180 @@
+#include "looks/MXCombobox.h"
+#include "looks/MXListbox.h"
+#include "support/DrawnQuads.h"
+#include "support/Gui.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/System.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ListboxTextItem.h>
+#include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <gtest/gtest.h>
+
+using namespace CEGUI;
+using namespace CEGUI::MoxieLook;
+using moxietest::context;
+
+namespace
+{
+class ListboxTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { moxietest::freshSheet(); }
+
+    static Listbox& list(int items, float height = 120)
+    {
+        auto& l = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 10, 10, 200, height));
+        for (int i = 0; i < items; ++i)
+            l.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
+        return l;
+    }
+
+    // Screen point in the middle of item `index` (all items are one line high).
+    static Vector2f itemCentre(const Listbox& l, int index)
+    {
+        const Rectf area = l.getListRenderArea();
+        const float h = l.getListboxItemFromIndex(0)->getPixelSize().d_height;
+        const Vector2f origin = l.getUnclippedOuterRect().get().d_min;
+        return Vector2f(origin.d_x + area.left() + 20,
+                        origin.d_y + area.top() + (index + 0.5f) * h -
+                            l.getVertScrollbar()->getScrollPosition());
+    }
+
+    static void clickAt(const Vector2f& at, uint keys = 0)
+    {
+        if (keys & Control)
+            context().injectKeyDown(Key::LeftControl);
+        if (keys & Shift)
+            context().injectKeyDown(Key::LeftShift);
+        moxietest::pointerTo(at.d_x, at.d_y);
+        moxietest::leftDown();
+        moxietest::leftUp();
+        if (keys & Control)
+            context().injectKeyUp(Key::LeftControl);
+        if (keys & Shift)
+            context().injectKeyUp(Key::LeftShift);
+    }
+};
+} // namespace
+
+TEST_F(ListboxTest, ItemsSitInTheAreaClearOfTheBarsAndSelectByClick)
+{
+    Listbox& l = list(20);
+    const Rectf area = l.getListRenderArea();
+    EXPECT_EQ(area, Rectf(2, 2, 200 - 2 - ListDrawing::ScrollbarThickness, 118));
+    EXPECT_TRUE(l.getVertScrollbar()->isVisible());
+    EXPECT_EQ(l.getListboxItemFromIndex(0)->getSelectionBrushImage()->getName(),
+              "MoxieLook/ListboxSelectionBrush");
+
+    clickAt(itemCentre(l, 2));
+    EXPECT_TRUE(l.isItemSelected(2));
+    clickAt(itemCentre(l, 4));
+    EXPECT_FALSE(l.isItemSelected(2));
+    EXPECT_TRUE(l.isItemSelected(4));
+
+    l.setMultiselectEnabled(true);
+    clickAt(itemCentre(l, 1), Control);
+    EXPECT_TRUE(l.isItemSelected(1));
+    EXPECT_TRUE(l.isItemSelected(4));
+    clickAt(itemCentre(l, 3));
+    clickAt(itemCentre(l, 5), Shift);
+    EXPECT_EQ(l.getSelectedCount(), 3u);
+
+    // Drawn: the brush under the selected items, the hover brush under the pointer.
+    moxietest::pointerTo(itemCentre(l, 0).d_x, itemCentre(l, 0).d_y);
+    const auto quads = moxietest::drawnBy(l);
+    std::vector<std::string> brushes;
+    for (const moxietest::DrawnQuad& q : quads)
+        if (q.image == "ListboxSelectionBrush" || q.image == "ListboxHoverBrush")
+            brushes.push_back(q.image);
+    EXPECT_EQ(brushes,
+              (std::vector<std::string>{"ListboxHoverBrush", "ListboxSelectionBrush",
+                                        "ListboxSelectionBrush", "ListboxSelectionBrush"}));
+}
+
+TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
+{
+    Listbox& l = list(1000);
+    auto countTexts = [&]
+    {
+        int texts = 0;
+        for (const moxietest::DrawnQuad& q : moxietest::drawnBy(l))
+            texts += q.image == "text";
+        return texts;
+    };
+    const float h = l.getListboxItemFromIndex(0)->getPixelSize().d_height;
+    const int inView = static_cast<int>(l.getListRenderArea().getHeight() / h) + 1;
+    EXPECT_LE(countTexts(), inView + 1);
+
+    moxietest::pointerTo(50, 50);
+    context().injectMouseWheelChange(-2);
+    const float afterWheel = l.getVertScrollbar()->getScrollPosition();
+    EXPECT_GT(afterWheel, 0);
+    l.getVertScrollbar()->setScrollPosition(500 * h);
+    EXPECT_LE(countTexts(), inView + 1);
+    clickAt(itemCentre(l, 503));
+    EXPECT_TRUE(l.isItemSelected(503));
+}
+
+TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
+{
+    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 10, 200, 150));
+    for (const char* city : {"Amsterdam", "Berlin", "Copenhagen", "Dublin"})
+        combo.addItem(new ListboxTextItem(city));
+    Window& below = moxietest::place("MoxieLook/Button", 10, 100, 100, 30);
+    ComboDropList& drop = *combo.getDropList();
+    const float edit = static_cast<MXCombobox&>(combo).editHeight();
+    EXPECT_FALSE(drop.isVisible());
+    // Closed, the list's room belongs to what is under it.
+    Window* root = moxietest::context().getRootWindow();
+    EXPECT_EQ(root->getTargetChildAtPosition(Vector2f(60, 105)), &below);
+    EXPECT_EQ(root->getTargetChildAtPosition(Vector2f(40, 10 + edit / 2)), combo.getEditbox());
+
+    const Rectf button = combo.getPushButton()->getUnclippedOuterRect().get();
+    clickAt(Vector2f(button.left() + 5, button.top() + 5));
+    ASSERT_TRUE(drop.isVisible());
+    EXPECT_EQ(drop.getUnclippedOuterRect().get().top(), 10 + edit);
+
+    // A click on an item chooses it and closes the list.
+    moxietest::pointerTo(itemCentre(drop, 2).d_x, itemCentre(drop, 2).d_y);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_FALSE(drop.isVisible());
+    EXPECT_EQ(combo.getText(), "Copenhagen");
+    EXPECT_EQ(combo.getSelectedItem()->getText(), "Copenhagen");
+
+    // Opened again, a click outside closes it and changes nothing.
+    clickAt(Vector2f(button.left() + 5, button.top() + 5));
+    ASSERT_TRUE(drop.isVisible());
+    clickAt(Vector2f(600, 500));
+    EXPECT_FALSE(drop.isVisible());
+    EXPECT_EQ(combo.getText(), "Copenhagen");
+
+    // Keys: up and down in the edit area step through the items; in the open list they
+    // move the selection and Return chooses.
+    auto press = [](Key::Scan scan)
+    {
+        context().injectKeyDown(scan);
+        context().injectKeyUp(scan);
+    };
+    combo.getEditbox()->activate();
+    press(Key::ArrowDown);
+    EXPECT_EQ(combo.getText(), "Dublin");
+    press(Key::ArrowUp);
+    EXPECT_EQ(combo.getText(), "Copenhagen");
+    combo.showDropList();
+    press(Key::ArrowUp);
+    press(Key::ArrowUp);
+    press(Key::Return);
+    EXPECT_FALSE(drop.isVisible());
+    EXPECT_EQ(combo.getText(), "Amsterdam");
+
+    // Read-only, a click on the edit area opens the list; typing changes nothing.
+    combo.setReadOnly(true);
+    clickAt(Vector2f(40, 10 + edit / 2));
+    EXPECT_TRUE(drop.isVisible());
+    context().injectChar('x');
+    EXPECT_EQ(combo.getText(), "Amsterdam");
+}
