@@ -75,6 +75,7 @@ std::vector<Sample> inputSamples()
              for (const char* item : {"First", "Second", "Third", "Fourth", "Fifth", "Sixth"})
                  list.addItem(new ListboxTextItem(item));
              list.setItemSelectState(1, true);
+             card.whenShown([&list] { list.show(); }); // a drop list starts hidden
          }},
         {"MoxieLook/Editbox", 110,
          [](Card& card)
