@@ -71,5 +71,6 @@ std::vector<Sample> selectableSamples();
 std::vector<Sample> treeSamples();
 std::vector<Sample> inputSamples();
 std::vector<Sample> chartSamples();
+std::vector<Sample> menuSamples();
 
 } // namespace gallery

@@ -192,6 +192,9 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
         for (int frame = 0; frame < 3; ++frame)
             renderFrame(1.0f / 60);
         shots.push_back(readBack(area));
+        // A card that captured the pointer (an open drop list) lets it go for the next.
+        if (Window* capturing = gui().getInputCaptureWindow())
+            capturing->releaseInput();
         gallery::writePng(dir + "/" + fileNameFor(card.type), shots.back());
         glfwSwapBuffers(window);
     }

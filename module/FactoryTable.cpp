@@ -7,6 +7,7 @@
 #include "looks/MXDiagram.h"
 #include "looks/MXEditbox.h"
 #include "looks/MXListbox.h"
+#include "looks/MXMenus.h"
 #include "looks/MXMultiLineEditBox.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
@@ -37,6 +38,8 @@ MXScrollablePaneRendererFactory s_scrollablePaneRenderer;
 MXEditboxRendererFactory s_editboxRenderer;
 MXMultiLineEditBoxRendererFactory s_multiLineEditBoxRenderer;
 MXListboxRendererFactory s_listboxRenderer;
+MXItemListRendererFactory s_itemListRenderer;
+MXMenuItemRendererFactory s_menuItemRenderer;
 
 MXStaticLayoutFactory s_staticLayout;
 MXStaticTextFactory s_staticText;
@@ -65,6 +68,10 @@ MXSpinnerFactory s_spinner;
 MXListboxFactory s_listbox;
 MXComboDropListFactory s_comboDropList;
 MXComboboxFactory s_combobox;
+MXMenubarItemFactory s_menubarItem;
+MXPopupMenuItemFactory s_popupMenuItem;
+MXMenubarFactory s_menubar;
+MXPopupMenuFactory s_popupMenu;
 MXWidgetDropDownListFactory s_widgetDropDownList;
 MXWidgetDropDownListboxFactory s_widgetDropDownListbox;
 MXProgressBarFactory s_progressBar;
@@ -100,6 +107,10 @@ const std::array k_table{
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
+    FactoryEntry{MXMenubarItem::WidgetTypeName, &s_menubarItem, &s_menuItemRenderer},
+    FactoryEntry{MXPopupMenuItem::WidgetTypeName, &s_popupMenuItem, &s_menuItemRenderer},
+    FactoryEntry{MXMenubar::WidgetTypeName, &s_menubar, &s_itemListRenderer},
+    FactoryEntry{MXPopupMenu::WidgetTypeName, &s_popupMenu, &s_itemListRenderer},
     FactoryEntry{MXClock::WidgetTypeName, &s_clock, nullptr},
     FactoryEntry{MXTreeView::WidgetTypeName, &s_treeView, nullptr},
     FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},

@@ -580,6 +580,37 @@ void paintWidgets(Atlas& atlas)
                  {{Border, BorderLight}, {hex(0xD8DEE6), hex(0xF4F6F8)}});
     addRingFrame(atlas, frameNames("EditboxFrameFocus"), 4, 2.0,
                  {{Accent, Accent}, {AccentLight, hex(0xEEF4FD)}});
+    addBar(atlas, {"MenuItemOpenLeft", "MenuItemOpenMiddle", "MenuItemOpenRight"}, 3, 20,
+           [](cairo_t* cr, double w, double h)
+           {
+               roundedRect(cr, 0.5, 0.5, w - 1, h - 1, 2.5);
+               setVerticalGradient(cr, 0, h, hex(0xB9CFF1), hex(0xD4E2F7));
+               cairo_fill_preserve(cr);
+               setColour(cr, AccentDark);
+               cairo_set_line_width(cr, 1);
+               cairo_stroke(cr);
+           });
+    atlas.add("MenuSeparator", 8, 2,
+              [](cairo_t* cr, double w, double)
+              {
+                  cairo_rectangle(cr, 0, 0, w, 1);
+                  setColour(cr, BorderLight);
+                  cairo_fill(cr);
+                  cairo_rectangle(cr, 0, 1, w, 1);
+                  setColour(cr, White);
+                  cairo_fill(cr);
+              });
+    // A soft shadow under pop-ups: dark, fading at its rim.
+    atlas.add("PopupMenuShadow", 12, 12,
+              [](cairo_t* cr, double w, double h)
+              {
+                  for (int ring = 0; ring < 3; ++ring)
+                  {
+                      roundedRect(cr, ring, ring, w - 2 * ring, h - 2 * ring, 4 - ring);
+                      setColour(cr, hex(0x1A2430), 0.08 + 0.06 * ring);
+                      cairo_fill(cr);
+                  }
+              });
     addGradient(atlas, "EditboxFill", 4, 4, White, White);
     addGradient(atlas, "EditboxFillReadOnly", 4, 4, Panel, Panel);
     addGradient(atlas, "EditboxFillDisabled", 4, 4, DisabledFace, DisabledFace);

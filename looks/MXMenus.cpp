@@ -1,0 +1,258 @@
+#include "looks/MXMenus.h"
+
+#include "draw/Imagery.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/widgets/ItemListBase.h>
+#include <algorithm>
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour MenuImagery::TextColour(0x0026313D);
+const Colour MenuImagery::DisabledTextColour(0x009AA3AD);
+
+namespace
+{
+ColourRect white(const Window& window)
+{
+    return withAlpha(ColourRect(Colour(0x00FFFFFF)), window.getEffectiveAlpha());
+}
+
+// The band under an item that is hovered, held or open.
+void drawBand(const Window& window, MenuItemState state, const Rectf& area)
+{
+    if (state != MenuItemState::Hover && state != MenuItemState::Pushed &&
+        state != MenuItemState::Open)
+        return;
+    const bool pressed = state != MenuItemState::Hover;
+    const ThreePieceBar band = pressed ? ThreePieceBar::named(MenuImagery::OpenLeftImageName,
+                                                              MenuImagery::OpenMiddleImageName,
+                                                              MenuImagery::OpenRightImageName)
+                                       : ThreePieceBar::named(MenuImagery::HoverLeftImageName,
+                                                              MenuImagery::HoverMiddleImageName,
+                                                              MenuImagery::HoverRightImageName);
+    band.draw(const_cast<Window&>(window).getGeometryBuffer(), area, white(window));
+}
+
+// A changed font changes the item's size: its list lays out again.
+void itemChangedSize(MenuItem& item)
+{
+    if (ItemListBase* list = item.getOwnerList())
+        list->handleUpdatedItemData();
+}
+} // namespace
+
+MenuItemState menuItemStateOf(const MenuItem& item)
+{
+    if (item.isEffectiveDisabled())
+        return MenuItemState::Disabled;
+    if (item.isOpened() && !(item.hasAutoPopup() && item.isPopupClosing()))
+        return MenuItemState::Open;
+    if (item.isPushed())
+        return item.isHovering() ? MenuItemState::Pushed : MenuItemState::Hover;
+    return item.isHovering() ? MenuItemState::Hover : MenuItemState::Normal;
+}
+
+// --- the bar ----------------------------------------------------------------------------
+
+MXMenubar::MXMenubar(const String& type, const String& name)
+    : RedrawnWhenUncovered<Menubar>(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    setWindowRenderer(MXItemListRenderer::TypeName);
+}
+
+Rectf MXMenubar::itemRenderArea() const
+{
+    const Sizef own = getPixelSize();
+    return Rectf(Padding, 0, std::max(Padding, own.d_width - Padding), own.d_height);
+}
+
+void MXMenubar::drawList()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    lookImage(BarImageName)
+        .render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr, white(*this));
+}
+
+void MXMenubar::onDeactivated(ActivationEventArgs& e)
+{
+    RedrawnWhenUncovered<Menubar>::onDeactivated(e);
+    if (getPopupMenuItem())
+        changePopupMenuItem(nullptr);
+}
+
+// --- the pop-up -------------------------------------------------------------------------
+
+MXPopupMenu::MXPopupMenu(const String& type, const String& name)
+    : RedrawnWhenUncovered<PopupMenu>(type, name)
+{
+    const String prefix(PopupFramePrefix);
+    const String names[8] = {prefix + "TopLeft",     prefix + "TopRight", prefix + "BottomLeft",
+                             prefix + "BottomRight", prefix + "Left",     prefix + "Top",
+                             prefix + "Right",       prefix + "Bottom"};
+    d_frame.setImages({names[0].c_str(), names[1].c_str(), names[2].c_str(), names[3].c_str(),
+                       names[4].c_str(), names[5].c_str(), names[6].c_str(), names[7].c_str()});
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    setWindowRenderer(MXItemListRenderer::TypeName);
+    // It hangs off its menu item, over everything.
+    setClippedByParent(false);
+    setAlwaysOnTop(true);
+}
+
+Rectf MXPopupMenu::itemRenderArea() const
+{
+    const Sizef own = getPixelSize();
+    // The box leaves room at its right and bottom for its shadow.
+    const Rectf box(0, 0, std::max(0.0f, own.d_width - ShadowOffset),
+                    std::max(0.0f, own.d_height - ShadowOffset));
+    Rectf area = d_frame.innerRect(box);
+    area.d_min.d_x += Padding;
+    area.d_min.d_y += Padding;
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x - Padding);
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y - Padding);
+    return area;
+}
+
+void MXPopupMenu::drawList()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Sizef own = getPixelSize();
+    const Sizef box(std::max(0.0f, own.d_width - ShadowOffset),
+                    std::max(0.0f, own.d_height - ShadowOffset));
+    lookImage(ShadowImageName)
+        .render(buffer, Rectf(Vector2f(ShadowOffset, ShadowOffset), box), nullptr, white(*this));
+    const Rectf boxRect(Vector2f(0, 0), box);
+    lookImage(PopupFillImageName).render(buffer, d_frame.innerRect(boxRect), nullptr, white(*this));
+    d_frame.setSize(box);
+    d_frame.setColours(white(*this));
+    d_frame.draw(buffer, Vector2f(0, 0), nullptr);
+}
+
+void MXPopupMenu::onDeactivated(ActivationEventArgs& e)
+{
+    RedrawnWhenUncovered<PopupMenu>::onDeactivated(e);
+    if (!dynamic_cast<MenuItem*>(getParent()) && isPopupMenuOpen())
+        closePopupMenu();
+}
+
+// --- bar items --------------------------------------------------------------------------
+
+MXMenubarItem::MXMenubarItem(const String& type, const String& name)
+    : RedrawnWhenUncovered<MenuItem>(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    setWindowRenderer(MXMenuItemRenderer::TypeName);
+}
+
+Sizef MXMenubarItem::itemPixelSize() const
+{
+    const Font* font = getFont();
+    if (!font)
+        return Sizef(2 * HorzPadding, 2 * VertPadding);
+    return Sizef(std::ceil(font->getTextExtent(getTextVisual())) + 2 * HorzPadding,
+                 std::ceil(font->getLineSpacing()) + 2 * VertPadding);
+}
+
+void MXMenubarItem::drawItem()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    const MenuItemState state = menuItemStateOf(*this);
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    drawBand(*this, state, area);
+    if (const Font* font = getFont())
+    {
+        const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
+        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
+        font->drawText(getGeometryBuffer(), getTextVisual(), Vector2f(HorzPadding, top), nullptr,
+                       ColourRect(withAlpha(colour, getEffectiveAlpha())));
+    }
+}
+
+void MXMenubarItem::onFontChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<MenuItem>::onFontChanged(e);
+    itemChangedSize(*this);
+}
+
+// --- pop-up items -----------------------------------------------------------------------
+
+MXPopupMenuItem::MXPopupMenuItem(const String& type, const String& name)
+    : RedrawnWhenUncovered<MenuItem>(type, name)
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+    setAutoPopupTimeout(SubMenuDelay);
+    setWindowRenderer(MXMenuItemRenderer::TypeName);
+}
+
+Sizef MXPopupMenuItem::itemPixelSize() const
+{
+    const Font* font = getFont();
+    if (isSeparator() || !font)
+        return Sizef(CheckColumn + TextGap, SeparatorHeight);
+    return Sizef(CheckColumn + std::ceil(font->getTextExtent(getTextVisual())) + TextGap +
+                     (getPopupMenu() ? ArrowColumn : 0.0f),
+                 std::ceil(font->getLineSpacing()) + 2 * VertPadding);
+}
+
+void MXPopupMenuItem::drawItem()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    if (isSeparator())
+    {
+        const Image& line = lookImage(SeparatorImageName);
+        const float h = line.getRenderedSize().d_height;
+        const float top = std::floor((area.getHeight() - h) * 0.5f);
+        line.render(buffer, Rectf(area.left() + 2, top, area.right() - 2, top + h), nullptr,
+                    white(*this));
+        return;
+    }
+    const MenuItemState state = menuItemStateOf(*this);
+    drawBand(*this, state, area);
+    const float alpha = state == MenuItemState::Disabled ? 0.5f : 1.0f;
+    auto centred = [&](const Image& image, float left, float width)
+    {
+        const Sizef size = image.getRenderedSize();
+        return Rectf(Vector2f(left + std::floor((width - size.d_width) * 0.5f),
+                              std::floor((area.getHeight() - size.d_height) * 0.5f)),
+                     size);
+    };
+    if (isSelectable() && isSelected())
+    {
+        const Image& mark = lookImage(CheckMarkImageName);
+        mark.render(buffer, centred(mark, 0, CheckColumn), nullptr, faded(white(*this), alpha));
+    }
+    if (getPopupMenu())
+    {
+        const Image& arrow = lookImage(SubMenuArrowImageName);
+        arrow.render(buffer, centred(arrow, area.right() - ArrowColumn, ArrowColumn), nullptr,
+                     faded(white(*this), alpha));
+    }
+    if (const Font* font = getFont())
+    {
+        const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
+        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
+        font->drawText(buffer, getTextVisual(), Vector2f(CheckColumn, top), nullptr,
+                       ColourRect(withAlpha(colour, getEffectiveAlpha())));
+    }
+}
+
+void MXPopupMenuItem::onFontChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<MenuItem>::onFontChanged(e);
+    itemChangedSize(*this);
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

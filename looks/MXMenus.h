@@ -1,0 +1,194 @@
+// The menu looks: "MoxieLook/Menubar" (a bar, "MenubarBackground"), "MoxieLook/PopupMenu"
+// (a raised box with a drop shadow: "PopupMenuShadow" under the "PopupMenuFrame..." frame
+// and "PopupMenuFill"), "MoxieLook/MenubarItem" and "MoxieLook/PopupMenuItem". An item
+// under the pointer takes the highlight band ("MenuItemFocusLeft", "...Middle",
+// "...Right"), an item held down or with its menu open the pressed band ("MenuItemOpen...");
+// a popup item shows a check mark ("CheckboxMark") while a host has it selected (CEGUI's
+// ItemEntry selection) and an arrow ("PopupMenuArrow") when it opens a sub-menu; a popup
+// item without text is a separator ("MenuSeparator"). Behaviour is CEGUI's own, with a
+// sub-menu opening after the pointer rests on its item and menus closing on a click
+// elsewhere, which CEGUI leaves to skins and hosts; its item
+// lists and items ask renderers for the item area and item sizes: MXItemListRenderer and
+// MXMenuItemRenderer forward to the looks.
+#pragma once
+
+#include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
+#include "draw/ThreePieceBar.h"
+#include "looks/LookFactory.h"
+#include "looks/LookRendererFactory.h"
+
+#include <CEGUI/widgets/MenuItem.h>
+#include <CEGUI/widgets/Menubar.h>
+#include <CEGUI/widgets/PopupMenu.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+//! What the item list renderer asks of the bar and the pop-up looks.
+class ItemListLook
+{
+public:
+    virtual ~ItemListLook() = default;
+    virtual Rectf itemRenderArea() const = 0;
+    virtual void drawList() = 0;
+};
+
+//! What the item renderer asks of the two item looks.
+class MenuItemLook
+{
+public:
+    virtual ~MenuItemLook() = default;
+    virtual Sizef itemPixelSize() const = 0;
+    virtual void drawItem() = 0;
+};
+
+//! The vocabulary the menu looks share.
+struct MenuImagery
+{
+    static constexpr char ImagesetName[] = "MoxieLook";
+    static constexpr char MouseCursorImageName[] = "MouseArrow";
+    static constexpr char BarImageName[] = "MenubarBackground";
+    static constexpr char PopupFramePrefix[] = "PopupMenuFrame";
+    static constexpr char PopupFillImageName[] = "PopupMenuFill";
+    static constexpr char ShadowImageName[] = "PopupMenuShadow";
+    static constexpr char HoverLeftImageName[] = "MenuItemFocusLeft";
+    static constexpr char HoverMiddleImageName[] = "MenuItemFocusMiddle";
+    static constexpr char HoverRightImageName[] = "MenuItemFocusRight";
+    static constexpr char OpenLeftImageName[] = "MenuItemOpenLeft";
+    static constexpr char OpenMiddleImageName[] = "MenuItemOpenMiddle";
+    static constexpr char OpenRightImageName[] = "MenuItemOpenRight";
+    static constexpr char CheckMarkImageName[] = "CheckboxMark";
+    static constexpr char SubMenuArrowImageName[] = "PopupMenuArrow";
+    static constexpr char SeparatorImageName[] = "MenuSeparator";
+    static const Colour TextColour;
+    static const Colour DisabledTextColour;
+    static constexpr float ShadowOffset = 3.0f;
+};
+
+class MXMenubar : public RedrawnWhenUncovered<Menubar>, public ItemListLook, public MenuImagery
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/Menubar";
+    static constexpr float Padding = 3.0f; //!< between the bar's ends and its items
+
+    MXMenubar(const String& type, const String& name);
+    Rectf itemRenderArea() const override;
+    void drawList() override;
+
+protected:
+    //! A click elsewhere closes the open menu.
+    void onDeactivated(ActivationEventArgs& e) override;
+};
+
+class MXPopupMenu : public RedrawnWhenUncovered<PopupMenu>, public ItemListLook, public MenuImagery
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/PopupMenu";
+    static constexpr float Padding = 2.0f; //!< between the frame and the items
+
+    MXPopupMenu(const String& type, const String& name);
+    Rectf itemRenderArea() const override;
+    void drawList() override;
+
+protected:
+    //! A menu of its own (not a menu item's) closes on a click elsewhere.
+    void onDeactivated(ActivationEventArgs& e) override;
+
+private:
+    NinePieceFrame d_frame;
+};
+
+//! An item's state as the looks show it.
+enum class MenuItemState
+{
+    Normal,
+    Hover,
+    Pushed,
+    Open,
+    Disabled
+};
+MenuItemState menuItemStateOf(const MenuItem& item);
+
+class MXMenubarItem : public RedrawnWhenUncovered<MenuItem>, public MenuItemLook, public MenuImagery
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/MenubarItem";
+    static constexpr float HorzPadding = 10.0f;
+    static constexpr float VertPadding = 4.0f;
+
+    MXMenubarItem(const String& type, const String& name);
+    Sizef itemPixelSize() const override;
+    void drawItem() override;
+
+protected:
+    void onFontChanged(WindowEventArgs& e) override;
+};
+
+class MXPopupMenuItem : public RedrawnWhenUncovered<MenuItem>,
+                        public MenuItemLook,
+                        public MenuImagery
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/PopupMenuItem";
+    static constexpr float CheckColumn = 20.0f; //!< left of the text: the check mark
+    static constexpr float ArrowColumn = 18.0f; //!< right of the text: the sub-menu arrow
+    static constexpr float TextGap = 12.0f;     //!< after the text
+    static constexpr float VertPadding = 3.0f;
+    static constexpr float SeparatorHeight = 7.0f;
+    //! Seconds the pointer rests on an item before its sub-menu opens.
+    static constexpr float SubMenuDelay = 0.25f;
+
+    MXPopupMenuItem(const String& type, const String& name);
+    Sizef itemPixelSize() const override;
+    void drawItem() override;
+    bool isSeparator() const { return getText().empty(); }
+
+protected:
+    void onFontChanged(WindowEventArgs& e) override;
+};
+
+class MXItemListRenderer : public LookRenderer<ItemListBaseWindowRenderer, ItemListLook>
+{
+public:
+    static constexpr char TypeName[] = "MoxieLook/ItemListRenderer";
+    using LookRenderer::LookRenderer;
+
+    void render() override
+    {
+        if (look())
+            look()->drawList();
+    }
+    Rectf getItemRenderArea() const override
+    {
+        return look() ? look()->itemRenderArea() : Rectf(0, 0, 0, 0);
+    }
+};
+
+class MXMenuItemRenderer : public LookRenderer<ItemEntryWindowRenderer, MenuItemLook>
+{
+public:
+    static constexpr char TypeName[] = "MoxieLook/MenuItemRenderer";
+    using LookRenderer::LookRenderer;
+
+    void render() override
+    {
+        if (look())
+            look()->drawItem();
+    }
+    Sizef getItemPixelSize() const override
+    {
+        return look() ? look()->itemPixelSize() : Sizef(0, 0);
+    }
+};
+
+using MXMenubarFactory = LookFactory<MXMenubar>;
+using MXPopupMenuFactory = LookFactory<MXPopupMenu>;
+using MXMenubarItemFactory = LookFactory<MXMenubarItem>;
+using MXPopupMenuItemFactory = LookFactory<MXPopupMenuItem>;
+using MXItemListRendererFactory = LookRendererFactory<MXItemListRenderer>;
+using MXMenuItemRendererFactory = LookRendererFactory<MXMenuItemRenderer>;
+
+} // namespace MoxieLook
+} // namespace CEGUI

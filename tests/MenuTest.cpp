@@ -1,0 +1,171 @@
+#include "looks/MXMenus.h"
+#include "support/DrawnQuads.h"
+#include "support/Gui.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/WindowManager.h>
+#include <gtest/gtest.h>
+
+using namespace CEGUI;
+using namespace CEGUI::MoxieLook;
+
+namespace
+{
+MenuItem& item(Window& menu, const char* type, const String& text)
+{
+    auto& entry = static_cast<MenuItem&>(*WindowManager::getSingleton().createWindow(type));
+    entry.setText(text);
+    menu.addChild(&entry);
+    return entry;
+}
+
+PopupMenu& popupOf(MenuItem& owner)
+{
+    auto& popup =
+        static_cast<PopupMenu&>(*WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu"));
+    owner.addChild(&popup);
+    return popup;
+}
+
+Vector2f centre(const Window& w)
+{
+    const Rectf r = w.getUnclippedOuterRect().get();
+    return Vector2f((r.left() + r.right()) / 2, (r.top() + r.bottom()) / 2);
+}
+
+void clickOn(const Window& w)
+{
+    const Vector2f c = centre(w);
+    moxietest::pointerTo(c.d_x, c.d_y);
+    moxietest::leftDown();
+    moxietest::leftUp();
+}
+
+void pulse()
+{
+    moxietest::context().injectTimePulse(0.5f);
+}
+
+class MenuTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        moxietest::freshSheet();
+        bar = static_cast<Menubar*>(&moxietest::place("MoxieLook/Menubar", 10, 10, 400, 26));
+        file = &item(*bar, "MoxieLook/MenubarItem", "File");
+        edit = &item(*bar, "MoxieLook/MenubarItem", "Edit");
+        view = &item(*bar, "MoxieLook/MenubarItem", "View");
+        fileMenu = &popupOf(*file);
+        open = &item(*fileMenu, "MoxieLook/PopupMenuItem", "Open");
+        recent = &item(*fileMenu, "MoxieLook/PopupMenuItem", "Recent");
+        disabled = &item(*fileMenu, "MoxieLook/PopupMenuItem", "Disabled");
+        disabled->setEnabled(false);
+        recentMenu = &popupOf(*recent);
+        item(*recentMenu, "MoxieLook/PopupMenuItem", "a.txt");
+        editMenu = &popupOf(*edit);
+        item(*editMenu, "MoxieLook/PopupMenuItem", "Copy");
+    }
+
+    Menubar* bar = nullptr;
+    MenuItem *file = nullptr, *edit = nullptr, *view = nullptr;
+    MenuItem *open = nullptr, *recent = nullptr, *disabled = nullptr;
+    PopupMenu *fileMenu = nullptr, *recentMenu = nullptr, *editMenu = nullptr;
+};
+} // namespace
+
+TEST_F(MenuTest, ItemsSizeToTheirTextsAndTheBarLaysThemOut)
+{
+    const Font& font = *file->getFont();
+    const Sizef fileSize = file->getItemPixelSize();
+    EXPECT_EQ(fileSize.d_width, std::ceil(font.getTextExtent("File")) + 20);
+    EXPECT_EQ(file->getPixelSize(), fileSize);
+    EXPECT_EQ(edit->getUnclippedOuterRect().get().left(),
+              file->getUnclippedOuterRect().get().right() + bar->getItemSpacing());
+    view->setText("A much longer view");
+    EXPECT_EQ(view->getPixelSize().d_width,
+              std::ceil(font.getTextExtent("A much longer view")) + 20);
+    // Pop-up items leave room for the check mark, and for the arrow when they open a menu.
+    EXPECT_EQ(recent->getItemPixelSize().d_width - open->getItemPixelSize().d_width,
+              std::ceil(font.getTextExtent("Recent")) - std::ceil(font.getTextExtent("Open")) +
+                  MXPopupMenuItem::ArrowColumn);
+}
+
+TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
+{
+    int opened = 0;
+    open->subscribeEvent(MenuItem::EventClicked, [&] { ++opened; });
+
+    clickOn(*file);
+    ASSERT_TRUE(fileMenu->isPopupMenuOpen());
+    EXPECT_EQ(fileMenu->getUnclippedOuterRect().get().top(),
+              file->getUnclippedOuterRect().get().bottom());
+    System::getSingleton().renderAllGUIContexts();
+
+    // Moving across the bar while a menu is open opens the next one.
+    const Vector2f e = centre(*edit);
+    moxietest::pointerTo(e.d_x, e.d_y);
+    pulse();
+    EXPECT_TRUE(editMenu->isPopupMenuOpen());
+    EXPECT_FALSE(fileMenu->isPopupMenuOpen());
+
+    // Back on File (open again by hovering, the bar being active), a sub-menu opens on hover.
+    const Vector2f f = centre(*file);
+    moxietest::pointerTo(f.d_x, f.d_y);
+    pulse();
+    ASSERT_TRUE(fileMenu->isPopupMenuOpen());
+    const Vector2f r = centre(*recent);
+    moxietest::pointerTo(r.d_x, r.d_y);
+    pulse();
+    pulse();
+    EXPECT_TRUE(recentMenu->isPopupMenuOpen());
+    EXPECT_TRUE(recent->isHovering() || recent->isOpened());
+    EXPECT_EQ(recentMenu->getUnclippedOuterRect().get().left(),
+              recent->getUnclippedOuterRect().get().right());
+
+    // A disabled item cannot be chosen; choosing one fires its click and closes the menus.
+    clickOn(*disabled);
+    EXPECT_TRUE(fileMenu->isPopupMenuOpen());
+    clickOn(*open);
+    EXPECT_EQ(opened, 1);
+    pulse();
+    EXPECT_FALSE(fileMenu->isPopupMenuOpen());
+
+    // A click outside closes an open menu.
+    clickOn(*file);
+    ASSERT_TRUE(fileMenu->isPopupMenuOpen());
+    Window& elsewhere = moxietest::place("MoxieLook/Button", 500, 400, 100, 30);
+    clickOn(elsewhere);
+    pulse();
+    EXPECT_FALSE(fileMenu->isPopupMenuOpen());
+}
+
+TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
+{
+    clickOn(*file);
+    const Vector2f o = centre(*open);
+    moxietest::pointerTo(o.d_x, o.d_y);
+    EXPECT_EQ(menuItemStateOf(*open), MenuItemState::Hover);
+    auto names = moxietest::imageNames(moxietest::drawnBy(*open));
+    EXPECT_EQ(names, (std::vector<std::string>{"MenuItemFocusLeft", "MenuItemFocusMiddle",
+                                               "MenuItemFocusRight", "text"}));
+    EXPECT_EQ(moxietest::imageNames(moxietest::drawnBy(*file))[0], "MenuItemOpenLeft");
+    names = moxietest::imageNames(moxietest::drawnBy(*recent));
+    EXPECT_EQ(names, (std::vector<std::string>{"PopupMenuArrow", "text"}));
+    open->setSelectable(true);
+    open->setSelected(true);
+    moxietest::pointerTo(600, 500);
+    EXPECT_EQ(moxietest::imageNames(moxietest::drawnBy(*open)),
+              (std::vector<std::string>{"CheckboxMark", "text"}));
+    const auto disabledText = moxietest::drawnBy(*disabled).back();
+    EXPECT_EQ(moxietest::argb(disabledText.colours.d_top_left), 0xFF9AA3ADu);
+
+    MenuItem& separator = item(*fileMenu, "MoxieLook/PopupMenuItem", "");
+    EXPECT_EQ(separator.getPixelSize().d_height, MXPopupMenuItem::SeparatorHeight);
+    EXPECT_EQ(moxietest::imageNames(moxietest::drawnBy(separator)),
+              std::vector<std::string>{"MenuSeparator"});
+    const auto popupQuads = moxietest::imageNames(moxietest::drawnBy(*fileMenu));
+    EXPECT_EQ(popupQuads[0], "PopupMenuShadow");
+    EXPECT_EQ(popupQuads[1], "PopupMenuFill");
+}
