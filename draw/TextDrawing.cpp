@@ -101,5 +101,13 @@ Sizef measureText(const Window& window, const RenderedString& text, float width,
     return Sizef(formatted->getHorizontalExtent(&window), formatted->getVerticalExtent(&window));
 }
 
+TextLines countLines(const Window& window, const RenderedString& text, float width,
+                     HorzTextFormat horz)
+{
+    auto formatted = formatterFor(text, horz);
+    formatted->format(&window, Sizef(width, 0.0f));
+    return {formatted->getFormattedLineCount(), formatted->getHorizontalExtent(&window)};
+}
+
 } // namespace MoxieLook
 } // namespace CEGUI

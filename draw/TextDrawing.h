@@ -4,6 +4,7 @@
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Rect.h>
 #include <CEGUI/String.h>
+#include <cstddef>
 
 namespace CEGUI
 {
@@ -51,6 +52,15 @@ float drawText(const Window& window, GeometryBuffer& buffer, const RenderedStrin
 //! The extent `text` would take in an area of `width` pixels.
 Sizef measureText(const Window& window, const RenderedString& text, float width,
                   HorzTextFormat horz);
+
+//! The lines `text` takes in an area of `width` pixels, and the widest of them.
+struct TextLines
+{
+    std::size_t count;
+    float widest;
+};
+TextLines countLines(const Window& window, const RenderedString& text, float width,
+                     HorzTextFormat horz);
 
 } // namespace MoxieLook
 } // namespace CEGUI

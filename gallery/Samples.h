@@ -72,5 +72,6 @@ std::vector<Sample> treeSamples();
 std::vector<Sample> inputSamples();
 std::vector<Sample> chartSamples();
 std::vector<Sample> menuSamples();
+std::vector<Sample> tabSamples();
 
 } // namespace gallery

@@ -269,6 +269,7 @@ int main(int argc, char** argv)
     MoxieLook::MXSoundification::GetInstance().RegisterHook(
         [](const std::string& name) { std::cout << "sound: " << name << std::endl; });
     gui().setDefaultFont("MoxieLook-10");
+    gui().setDefaultTooltipType("MoxieLook/Tooltip");
     gui().getMouseCursor().setDefaultImage("MoxieLook/MouseArrow");
 
     int status = 0;

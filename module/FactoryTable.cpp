@@ -17,6 +17,10 @@
 #include "looks/MXSlider.h"
 #include "looks/MXSmartButtonNodeItem.h"
 #include "looks/MXSpinner.h"
+#include "looks/MXTabButton.h"
+#include "looks/MXTabControl.h"
+#include "looks/MXTabPane.h"
+#include "looks/MXTooltip.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
 #include "looks/MXWidgetDropDownList.h"
@@ -40,6 +44,8 @@ MXMultiLineEditBoxRendererFactory s_multiLineEditBoxRenderer;
 MXListboxRendererFactory s_listboxRenderer;
 MXItemListRendererFactory s_itemListRenderer;
 MXMenuItemRendererFactory s_menuItemRenderer;
+MXTabControlRendererFactory s_tabControlRenderer;
+MXTooltipRendererFactory s_tooltipRenderer;
 
 MXStaticLayoutFactory s_staticLayout;
 MXStaticTextFactory s_staticText;
@@ -78,6 +84,10 @@ MXProgressBarFactory s_progressBar;
 MXToggleButtonFactory s_toggleButton;
 MXRadioButtonFactory s_radioButton;
 MXAnimatedStaticImageFactory s_animatedStaticImage;
+MXTabControlFactory s_tabControl;
+MXTabButtonFactory s_tabButton;
+MXTabPaneFactory s_tabPane;
+MXTooltipFactory s_tooltip;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -103,8 +113,12 @@ const std::array k_table{
     FactoryEntry{MXWidgetDropDownListbox::WidgetTypeName, &s_widgetDropDownListbox, nullptr},
     FactoryEntry{MXMultiLineEditBox::WidgetTypeName, &s_multiLineEditBox,
                  &s_multiLineEditBoxRenderer},
+    FactoryEntry{MXTabControl::WidgetTypeName, &s_tabControl, &s_tabControlRenderer},
+    FactoryEntry{MXTabButton::WidgetTypeName, &s_tabButton, nullptr},
+    FactoryEntry{MXTabPane::WidgetTypeName, &s_tabPane, nullptr},
     FactoryEntry{MXSpinner::WidgetTypeName, &s_spinner, nullptr},
     FactoryEntry{MXScrollablePane::WidgetTypeName, &s_scrollablePane, &s_scrollablePaneRenderer},
+    FactoryEntry{MXTooltip::WidgetTypeName, &s_tooltip, &s_tooltipRenderer},
     FactoryEntry{MXTextItem::WidgetTypeName, &s_textItem, nullptr},
     FactoryEntry{MXTextItemEx::WidgetTypeName, &s_textItemEx, nullptr},
     FactoryEntry{MXMenubarItem::WidgetTypeName, &s_menubarItem, &s_menuItemRenderer},

@@ -466,6 +466,9 @@ void paintScrolling(Atlas& atlas)
 
 void paintTabs(Atlas& atlas)
 {
+    // The tab looks size their side columns by the upper middle piece and the pane's lower
+    // row by the lower piece's width: middles as wide as the corners keep both true.
+    constexpr int TabMiddle = 4;
     auto tab = [](bool selected)
     {
         return [selected](cairo_t* cr, double w, double h)
@@ -495,25 +498,27 @@ void paintTabs(Atlas& atlas)
             {"TabButtonUpperLeftNormal", "TabButtonUpperNormal", "TabButtonUpperRightNormal",
              "TabButtonLeftNormal", "TabButtonMiddleNormal", "TabButtonRightNormal",
              "TabButtonLowerLeftNormal", "TabButtonLowerNormal", "TabButtonLowerRightNormal"},
-            4, tab(false));
+            4, tab(false), TabMiddle);
     addGrid(atlas,
             {"TabButtonUpperLeftSelected", "TabButtonUpperSelected", "TabButtonUpperRightSelected",
              "TabButtonLeftSelected", "TabButtonMiddleSelected", "TabButtonRightSelected", "", "",
              ""},
-            4, tab(true));
-    addGrid(atlas,
-            {"", "", "", "TabPaneLeft", "TabPaneMiddle", "TabPaneRight", "TabPaneLowerLeft",
-             "TabPaneLower", "TabPaneLowerRight"},
-            4,
-            [](cairo_t* cr, double w, double h)
-            {
-                roundedRect(cr, 0.5, -8, w - 1, h + 7.5, 3);
-                setColour(cr, Panel);
-                cairo_fill_preserve(cr);
-                setColour(cr, Border);
-                cairo_set_line_width(cr, 1);
-                cairo_stroke(cr);
-            });
+            4, tab(true), TabMiddle);
+    addGrid(
+        atlas,
+        {"", "", "", "TabPaneLeft", "TabPaneMiddle", "TabPaneRight", "TabPaneLowerLeft",
+         "TabPaneLower", "TabPaneLowerRight"},
+        4,
+        [](cairo_t* cr, double w, double h)
+        {
+            roundedRect(cr, 0.5, -8, w - 1, h + 7.5, 3);
+            setColour(cr, Panel);
+            cairo_fill_preserve(cr);
+            setColour(cr, Border);
+            cairo_set_line_width(cr, 1);
+            cairo_stroke(cr);
+        },
+        TabMiddle);
     atlas.add("TabControlButtonPaneFiller", 4, 24,
               [](cairo_t* cr, double w, double h)
               {

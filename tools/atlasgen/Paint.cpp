@@ -80,17 +80,17 @@ void addRingFrame(Atlas& atlas, const FrameNames& names, int corner, double radi
 }
 
 void addGrid(Atlas& atlas, const std::array<std::string, 9>& names, int corner,
-             const Painter& paint)
+             const Painter& paint, int middle)
 {
-    const int size = 2 * corner + 2;
+    const int size = 2 * corner + middle;
     cairo_surface_t* panel = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size, size);
     cairo_t* cr = cairo_create(panel);
     paint(cr, size, size);
     cairo_destroy(cr);
     cairo_surface_flush(panel);
 
-    const int origin[3] = {0, corner, corner + 2};
-    const int extent[3] = {corner, 2, corner};
+    const int origin[3] = {0, corner, corner + middle};
+    const int extent[3] = {corner, middle, corner};
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 3; ++column)
         {

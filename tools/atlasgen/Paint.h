@@ -49,12 +49,12 @@ using FrameNames = std::array<std::string, 8>;
 void addRingFrame(Atlas& atlas, const FrameNames& names, int corner, double radius,
                   const std::vector<Ring>& rings);
 
-//! Paints a (3 * corner + 2)-wide panel and cuts all nine pieces out of it:
-//! corners `corner` square, edges and middle 2 pixels along their stretch axis.
+//! Paints a (2 * corner + middle)-square panel and cuts all nine pieces out of it:
+//! corners `corner` square, edges and middle `middle` pixels along their stretch axis.
 //! Names in rows: upper-left, upper, upper-right, left, middle, right, lower-left,
 //! lower, lower-right; an empty name skips that piece.
 void addGrid(Atlas& atlas, const std::array<std::string, 9>& names, int corner,
-             const Painter& paint);
+             const Painter& paint, int middle = 2);
 
 //! Three pieces cut from one painted bar: left cap, stretchable middle, right cap.
 void addBar(Atlas& atlas, const std::array<std::string, 3>& names, int cap, int height,

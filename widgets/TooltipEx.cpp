@@ -1,0 +1,228 @@
+#include "widgets/TooltipEx.h"
+
+#include "draw/TextDrawing.h"
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/PropertyHelper.h>
+#include <algorithm>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+TooltipExProperties::TextColourProperty s_textColourProperty;
+// Halvings of the width range when balancing lines: far below a pixel for any tooltip.
+constexpr int BalanceSteps = 24;
+} // namespace
+
+TooltipEx::TooltipEx(const String& type, const String& name)
+    : RedrawnWhenUncovered<Tooltip>(type, name)
+{
+    d_fadeTime = DefaultFadeTime;
+    addTooltipExProperties();
+}
+
+void TooltipEx::addTooltipExProperties()
+{
+    addProperty(&s_textColourProperty);
+    const String propertyOrigin("MoxieLook/Tooltip");
+    CEGUI_DEFINE_PROPERTY(TooltipEx, float, "FadeTime",
+                          "Property to get/set the seconds the tooltip takes to fade in or out. "
+                          "Value is a float.",
+                          &TooltipEx::setFadeTime, &TooltipEx::getFadeTime, DefaultFadeTime);
+}
+
+TooltipEx::State TooltipEx::getState() const
+{
+    if (!d_active)
+        return Inactive;
+    if (d_fadingIn)
+        return FadingIn;
+    if (d_fadingOut)
+        return FadingOut;
+    return Active;
+}
+
+void TooltipEx::forceActivation(Window* target)
+{
+    if (!target)
+        throw InvalidRequestException("A tooltip cannot be shown for no window.");
+    const State state = getState();
+    if (state == Active || state == FadingIn)
+        return;
+    setTargetWindow(target);
+    if (state == Inactive)
+    {
+        switchToActiveState();
+        return;
+    }
+    // Fading out: turn back from the alpha reached.
+    d_fadingOut = false;
+    d_fadingIn = d_fadeTime > 0;
+    d_elapsed = getAlpha() * d_fadeTime;
+}
+
+void TooltipEx::forceDeactivaction()
+{
+    const State state = getState();
+    if (state == Inactive || state == FadingOut)
+        return;
+    d_fadingIn = false;
+    d_fadingOut = true;
+    d_elapsed = 0.0f;
+}
+
+void TooltipEx::setTextColour(const Colour& colour)
+{
+    d_textColour = colour;
+    invalidate();
+}
+
+void TooltipEx::setFadeTime(float seconds)
+{
+    d_fadeTime = std::max(seconds, 0.0f);
+}
+
+void TooltipEx::onTooltipActive(WindowEventArgs& e)
+{
+    d_fadingOut = false;
+    d_fadingIn = d_fadeTime > 0;
+    setAlpha(d_fadingIn ? 0.0f : 1.0f);
+    Tooltip::onTooltipActive(e);
+}
+
+void TooltipEx::onTooltipInactive(WindowEventArgs& e)
+{
+    d_fadingIn = d_fadingOut = false;
+    // CEGUI 0.8 leaves hiding to skin animations; this tooltip has none.
+    if (isVisible())
+        hide();
+    setAlpha(1.0f);
+    Tooltip::onTooltipInactive(e);
+}
+
+void TooltipEx::updateSelf(float elapsed)
+{
+    const bool timesOut = d_active && !d_fadingIn && !d_fadingOut && d_displayTime > 0 &&
+                          d_target && !d_target->getTooltipText().empty() &&
+                          d_elapsed + elapsed >= d_displayTime;
+    if (timesOut)
+    {
+        // The fade starts with the next pulse.
+        Window::updateSelf(elapsed);
+        forceDeactivaction();
+        return;
+    }
+    if (!d_fadingIn && !d_fadingOut)
+    {
+        Tooltip::updateSelf(elapsed);
+        return;
+    }
+
+    Window::updateSelf(elapsed);
+    if (!d_target || d_target->getTooltipText().empty())
+    {
+        hide();
+        switchToInactiveState();
+        return;
+    }
+    d_elapsed += elapsed;
+    const float progress = d_fadeTime > 0 ? std::min(d_elapsed / d_fadeTime, 1.0f) : 1.0f;
+    if (d_fadingIn)
+    {
+        setAlpha(progress);
+        if (progress >= 1.0f)
+        {
+            d_fadingIn = false;
+            d_elapsed = 0.0f; // the display time starts now
+        }
+    }
+    else if (progress >= 1.0f)
+        switchToInactiveState();
+    else
+        setAlpha(1.0f - progress);
+}
+
+float TooltipEx::widestWordWidth(const Font& font) const
+{
+    const String& text = getText();
+    float widest = 0.0f;
+    String::size_type start = 0;
+    while (start < text.length())
+    {
+        const String::size_type end = std::min(text.find_first_of(" \t\n", start), text.length());
+        if (end > start)
+            widest = std::max(widest, font.getTextExtent(text.substr(start, end - start)));
+        start = end + 1;
+    }
+    return widest;
+}
+
+std::pair<unsigned, float> TooltipEx::wrapped(float width) const
+{
+    const TextLines lines =
+        countLines(*this, getRenderedString(), width, HorzTextFormat::WordWrapLeft);
+    return {static_cast<unsigned>(lines.count), lines.widest};
+}
+
+Sizef TooltipEx::getTextSize(unsigned lines) const
+{
+    const Font* font = getFont();
+    if (!font || lines == 0)
+        return Sizef(0, 0);
+    // The narrowest width at which the words still fit in `lines` lines. Below the widest
+    // word CEGUI would break words apart, so the search stops there.
+    float fits = getTextSize_impl().d_width;
+    const float widestWord = widestWordWidth(*font);
+    if (wrapped(widestWord).first <= lines)
+        fits = widestWord;
+    float tooNarrow = widestWord;
+    for (int step = 0; step < BalanceSteps && fits > tooNarrow; ++step)
+    {
+        const float width = (fits + tooNarrow) * 0.5f;
+        (wrapped(width).first <= lines ? fits : tooNarrow) = width;
+    }
+    return Sizef(wrapped(fits).second, lines * font->getLineSpacing());
+}
+
+Sizef TooltipEx::getTextSize() const
+{
+    Sizef size = getTextSize_impl();
+    if (getText().empty())
+        return size;
+    unsigned lines = static_cast<unsigned>(std::max<size_t>(getRenderedString().getLineCount(), 1));
+    while (size.d_height > 0 && size.d_width / size.d_height > TargetAspect)
+    {
+        const Sizef more = getTextSize(++lines);
+        if (!(more.d_width < size.d_width))
+            break;
+        size = more;
+    }
+    return size;
+}
+
+namespace TooltipExProperties
+{
+TextColourProperty::TextColourProperty()
+    : Property("TextColour", "Defines the color of text in the tooltip.", "00000000", true,
+               "MoxieLook/Tooltip")
+{
+}
+
+String TextColourProperty::get(const PropertyReceiver* receiver) const
+{
+    return PropertyHelper<Colour>::toString(
+        static_cast<const TooltipEx*>(receiver)->getTextColour());
+}
+
+void TextColourProperty::set(PropertyReceiver* receiver, const String& value)
+{
+    static_cast<TooltipEx*>(receiver)->setTextColour(PropertyHelper<Colour>::fromString(value));
+}
+} // namespace TooltipExProperties
+
+} // namespace MoxieLook
+} // namespace CEGUI
