@@ -3,9 +3,11 @@
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
+#include "looks/MXCloseButton.h"
 #include "looks/MXCombobox.h"
 #include "looks/MXDiagram.h"
 #include "looks/MXEditbox.h"
+#include "looks/MXFrameWindow.h"
 #include "looks/MXListbox.h"
 #include "looks/MXMenus.h"
 #include "looks/MXMultiLineEditBox.h"
@@ -20,6 +22,8 @@
 #include "looks/MXTabButton.h"
 #include "looks/MXTabControl.h"
 #include "looks/MXTabPane.h"
+#include "looks/MXTaskbar.h"
+#include "looks/MXTitlebar.h"
 #include "looks/MXTooltip.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
@@ -88,6 +92,11 @@ MXTabControlFactory s_tabControl;
 MXTabButtonFactory s_tabButton;
 MXTabPaneFactory s_tabPane;
 MXTooltipFactory s_tooltip;
+MXTitlebarFactory s_titlebar;
+MXCloseButtonFactory s_closeButton;
+MXFrameWindowFactory s_frameWindow;
+MXTaskbarButtonFactory s_taskbarButton;
+MXTaskbarFactory s_taskbar;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -97,8 +106,12 @@ const std::array k_table{
     FactoryEntry{MXStaticImageEx::WidgetTypeName, &s_staticImageEx, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
+    FactoryEntry{MXTitlebar::WidgetTypeName, &s_titlebar, nullptr},
+    FactoryEntry{MXCloseButton::WidgetTypeName, &s_closeButton, nullptr},
+    FactoryEntry{MXFrameWindow::WidgetTypeName, &s_frameWindow, nullptr},
     FactoryEntry{MXEditbox::WidgetTypeName, &s_editbox, &s_editboxRenderer},
     FactoryEntry{MXCheckbox::WidgetTypeName, &s_checkbox, nullptr},
+    FactoryEntry{MXTaskbarButton::WidgetTypeName, &s_taskbarButton, nullptr},
     FactoryEntry{MXProgressBar::WidgetTypeName, &s_progressBar, nullptr},
     FactoryEntry{MXSliderThumb::WidgetTypeName, &s_sliderThumb, nullptr},
     FactoryEntry{MXSlider::WidgetTypeName, &s_slider, nullptr},
@@ -125,6 +138,7 @@ const std::array k_table{
     FactoryEntry{MXPopupMenuItem::WidgetTypeName, &s_popupMenuItem, &s_menuItemRenderer},
     FactoryEntry{MXMenubar::WidgetTypeName, &s_menubar, &s_itemListRenderer},
     FactoryEntry{MXPopupMenu::WidgetTypeName, &s_popupMenu, &s_itemListRenderer},
+    FactoryEntry{MXTaskbar::WidgetTypeName, &s_taskbar, nullptr},
     FactoryEntry{MXClock::WidgetTypeName, &s_clock, nullptr},
     FactoryEntry{MXTreeView::WidgetTypeName, &s_treeView, nullptr},
     FactoryEntry{MXToggleButton::WidgetTypeName, &s_toggleButton, nullptr},

@@ -724,25 +724,81 @@ void paintCursors(Atlas& atlas)
 }
 
 // Icons for hosts' buttons, badges and the gallery's samples.
+// Glyphs drawn on a 16 x 16 grid, for icons and the task-bar bitmaps.
+void starGlyph(cairo_t* cr)
+{
+    std::vector<std::array<double, 2>> points;
+    for (int i = 0; i < 10; ++i)
+    {
+        const double r = i % 2 ? 3.2 : 7.2;
+        const double a = -M_PI / 2 + i * M_PI / 5;
+        points.push_back({8 + r * std::cos(a), 8.5 + r * std::sin(a)});
+    }
+    polygon(cr, points);
+    setVerticalGradient(cr, 0, 16, hex(0xFFD75E), hex(0xF0A81C));
+    cairo_fill_preserve(cr);
+    setColour(cr, hex(0xB57A0E));
+    cairo_set_line_width(cr, 1);
+    cairo_stroke(cr);
+}
+
+void folderGlyph(cairo_t* cr)
+{
+    roundedRect(cr, 1.5, 2.5, 6, 4, 1);
+    roundedRect(cr, 1.5, 4.5, 13, 9, 1.5);
+    setVerticalGradient(cr, 2, 14, hex(0xFFD98A), hex(0xE8B04A));
+    cairo_fill_preserve(cr);
+    setColour(cr, hex(0xB07E22));
+    cairo_set_line_width(cr, 1);
+    cairo_stroke(cr);
+}
+
+void documentGlyph(cairo_t* cr)
+{
+    polygon(cr, {{3.5, 1.5}, {9.5, 1.5}, {12.5, 4.5}, {12.5, 14.5}, {3.5, 14.5}});
+    setColour(cr, White);
+    cairo_fill_preserve(cr);
+    setColour(cr, Border);
+    cairo_set_line_width(cr, 1);
+    cairo_stroke(cr);
+    for (int i = 0; i < 3; ++i)
+    {
+        cairo_rectangle(cr, 5, 6 + 2.5 * i, 6, 1);
+        setColour(cr, BorderLight);
+        cairo_fill(cr);
+    }
+}
+
+// A task-bar bitmap set for a window: "<name>" at rest, "...Focus" under the pointer,
+// "...Select" for the active window, "...SelectFocus" both.
+void taskbarBitmaps(Atlas& atlas, const std::string& name, void (*glyph)(cairo_t*))
+{
+    const struct
+    {
+        const char* suffix;
+        Rgb line, top, bottom;
+    } states[] = {{"", hex(0x1E2731), hex(0x58687B), hex(0x3E4C5D)},
+                  {"Focus", hex(0x1E2731), hex(0x6D7F94), hex(0x4F6075)},
+                  {"Select", AccentDark, hex(0x5A93E4), hex(0x2F66BC)},
+                  {"SelectFocus", AccentDark, hex(0x79AAEE), hex(0x447CD0)}};
+    for (const auto& state : states)
+        atlas.add(name + state.suffix, 40, 26,
+                  [=](cairo_t* cr, double w, double h)
+                  {
+                      roundedRect(cr, 0.5, 0.5, w - 1, h - 1, 4);
+                      setVerticalGradient(cr, 0, h, state.top, state.bottom);
+                      cairo_fill_preserve(cr);
+                      setColour(cr, state.line);
+                      cairo_set_line_width(cr, 1);
+                      cairo_stroke(cr);
+                      cairo_translate(cr, (w - 16) / 2, (h - 16) / 2);
+                      glyph(cr);
+                  });
+}
+
 void paintIcons(Atlas& atlas)
 {
-    atlas.add("IconStar", 16, 16,
-              [](cairo_t* cr, double w, double h)
-              {
-                  std::vector<std::array<double, 2>> points;
-                  for (int i = 0; i < 10; ++i)
-                  {
-                      const double r = i % 2 ? 3.2 : 7.2;
-                      const double a = -M_PI / 2 + i * M_PI / 5;
-                      points.push_back({w / 2 + r * std::cos(a), h / 2 + 0.5 + r * std::sin(a)});
-                  }
-                  polygon(cr, points);
-                  setVerticalGradient(cr, 0, h, hex(0xFFD75E), hex(0xF0A81C));
-                  cairo_fill_preserve(cr);
-                  setColour(cr, hex(0xB57A0E));
-                  cairo_set_line_width(cr, 1);
-                  cairo_stroke(cr);
-              });
+    atlas.add("IconStar", 16, 16, [](cairo_t* cr, double, double) { starGlyph(cr); });
     atlas.add("IconHeart", 16, 16,
               [](cairo_t* cr, double, double)
               {
@@ -779,33 +835,11 @@ void paintIcons(Atlas& atlas)
     atlas.add("IconWarning", 16, 16, disc(hex(0xF5A44A), hex(0xD8661A), '!'));
     atlas.add("BadgeRed", 10, 10, disc(hex(0xF0706A), hex(0xC92F2A), ' '));
     atlas.add("BadgeGreen", 10, 10, disc(hex(0x7FD38A), hex(0x2E9B44), ' '));
-    atlas.add("IconFolder", 16, 16,
-              [](cairo_t* cr, double, double)
-              {
-                  roundedRect(cr, 1.5, 2.5, 6, 4, 1);
-                  roundedRect(cr, 1.5, 4.5, 13, 9, 1.5);
-                  setVerticalGradient(cr, 2, 14, hex(0xFFD98A), hex(0xE8B04A));
-                  cairo_fill_preserve(cr);
-                  setColour(cr, hex(0xB07E22));
-                  cairo_set_line_width(cr, 1);
-                  cairo_stroke(cr);
-              });
-    atlas.add("IconDocument", 16, 16,
-              [](cairo_t* cr, double, double)
-              {
-                  polygon(cr, {{3.5, 1.5}, {9.5, 1.5}, {12.5, 4.5}, {12.5, 14.5}, {3.5, 14.5}});
-                  setColour(cr, White);
-                  cairo_fill_preserve(cr);
-                  setColour(cr, Border);
-                  cairo_set_line_width(cr, 1);
-                  cairo_stroke(cr);
-                  for (int i = 0; i < 3; ++i)
-                  {
-                      cairo_rectangle(cr, 5, 6 + 2.5 * i, 6, 1);
-                      setColour(cr, BorderLight);
-                      cairo_fill(cr);
-                  }
-              });
+    atlas.add("IconFolder", 16, 16, [](cairo_t* cr, double, double) { folderGlyph(cr); });
+    atlas.add("IconDocument", 16, 16, [](cairo_t* cr, double, double) { documentGlyph(cr); });
+    taskbarBitmaps(atlas, "TaskbarWindowNotes", documentGlyph);
+    taskbarBitmaps(atlas, "TaskbarWindowFiles", folderGlyph);
+    taskbarBitmaps(atlas, "TaskbarWindowFavourites", starGlyph);
 
     // Eight frames of a busy indicator: dots round a circle, the bright one advancing.
     for (int frame = 0; frame < 8; ++frame)

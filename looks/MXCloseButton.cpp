@@ -1,0 +1,72 @@
+#include "looks/MXCloseButton.h"
+
+#include "draw/Imagery.h"
+
+#include <cmath>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+MXCloseButton::MXCloseButton(const String& type, const String& name)
+    : MXButton(type, name), d_normal(&lookImage(NormalImageName)),
+      d_hover(&lookImage(HoverImageName)), d_pushed(&lookImage(PushedImageName))
+{
+}
+
+void MXCloseButton::setStateImages(const String& normal, const String& hover, const String& pushed)
+{
+    const Image* n = &lookImage(normal);
+    const Image* h = &lookImage(hover);
+    const Image* p = &lookImage(pushed);
+    d_normal = n;
+    d_hover = h;
+    d_pushed = p;
+    invalidate();
+}
+
+const Image* MXCloseButton::getStateImage(ButtonDrawState state) const
+{
+    switch (state)
+    {
+    case ButtonDrawState::Hover:
+        return d_hover;
+    case ButtonDrawState::Pushed:
+        return d_pushed;
+    default:
+        return d_normal;
+    }
+}
+
+void MXCloseButton::drawNormal()
+{
+    drawCentred(d_normal, 1.0f);
+}
+
+void MXCloseButton::drawHover()
+{
+    drawCentred(d_hover, 1.0f);
+}
+
+void MXCloseButton::drawPushed()
+{
+    drawCentred(d_pushed, 1.0f);
+}
+
+void MXCloseButton::drawDisabled()
+{
+    drawCentred(d_normal, DisabledAlpha);
+}
+
+void MXCloseButton::drawCentred(const Image* image, float alpha)
+{
+    const Sizef area = getPixelSize();
+    const Sizef size = image->getRenderedSize();
+    const Vector2f at(std::trunc((area.d_width - size.d_width) * 0.5f + 0.5f),
+                      std::trunc((area.d_height - size.d_height) * 0.5f + 0.5f));
+    image->render(getGeometryBuffer(), Rectf(at, size), nullptr,
+                  withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha() * alpha));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

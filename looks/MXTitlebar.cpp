@@ -1,0 +1,55 @@
+#include "looks/MXTitlebar.h"
+
+#include "draw/Imagery.h"
+#include "draw/TextDrawing.h"
+#include "looks/MXFrameWindow.h"
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour MXTitlebar::ActiveTextColour(0x00FFFFFF);
+const Colour MXTitlebar::InactiveTextColour(0x00F2F5F9);
+
+MXTitlebar::MXTitlebar(const String& type, const String& name)
+    : RedrawnWhenUncovered<Titlebar>(type, name),
+      d_bar(ThreePieceBar::named(LeftImageName, MiddleImageName, RightImageName)),
+      d_activeBar(
+          ThreePieceBar::named(ActiveLeftImageName, ActiveMiddleImageName, ActiveRightImageName))
+{
+    setMouseCursor(&lookImage(MouseCursorImageName));
+}
+
+float MXTitlebar::barHeight() const
+{
+    return d_bar.middle->getRenderedSize().d_height;
+}
+
+bool MXTitlebar::showsActive() const
+{
+    const Window* window = getParent();
+    return window && window->isActive();
+}
+
+void MXTitlebar::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const float alpha = getEffectiveAlpha();
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    const bool active = showsActive();
+    (active ? d_activeBar : d_bar)
+        .draw(buffer, area, withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+
+    if (!getFont() || getText().empty())
+        return;
+    const Rectf text(area.left() + MXFrameWindow::TitlebarTextPadding, area.top(),
+                     area.right() - ButtonRoom, area.bottom());
+    drawText(*this, buffer, getRenderedString(), text, HorzTextFormat::Left,
+             VertTextFormat::Centred,
+             ColourRect(withAlpha(active ? ActiveTextColour : InactiveTextColour, alpha)), &text);
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
