@@ -74,7 +74,8 @@ GalleryPage::GalleryPage(const Sizef& display) : d_viewHeight(display.d_height)
         else
             builder.add(entry->typeName, "", 10, 10, 200, 30);
 
-        d_cards.push_back({entry->typeName, card, builder.hoverTarget(), builder.shownAction()});
+        d_cards.push_back({entry->typeName, card, builder.hoverTarget(), builder.shownAction(),
+                           builder.animationStart(), builder.animationFrames()});
         columnBottom[column] = y + TitleHeight + contentHeight + Margin;
     }
     d_contentHeight = std::max(columnBottom[0], columnBottom[1]);

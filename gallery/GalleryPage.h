@@ -26,6 +26,8 @@ public:
         CEGUI::Window* card;
         CEGUI::Window* hoverTarget;
         std::function<void()> whenShown;
+        std::function<void()> animate;
+        std::vector<int> animationFrames;
     };
     const std::vector<CardInfo>& cards() const { return d_cards; }
 

@@ -162,7 +162,7 @@ const std::vector<Sample>& samples()
     {
         std::vector<Sample> gathered;
         for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
-                           chartSamples, menuSamples, tabSamples})
+                           chartSamples, menuSamples, tabSamples, windowSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

@@ -47,11 +47,22 @@ public:
     //! the other cards are built).
     void whenShown(std::function<void()> action) { d_whenShown = std::move(action); }
     const std::function<void()>& shownAction() const { return d_whenShown; }
+    //! An animation to photograph frame by frame after the card's picture (started by
+    //! the action; pictures are taken at the listed frames).
+    void animation(std::function<void()> start, std::vector<int> frames)
+    {
+        d_animation = std::move(start);
+        d_animationFrames = std::move(frames);
+    }
+    const std::function<void()>& animationStart() const { return d_animation; }
+    const std::vector<int>& animationFrames() const { return d_animationFrames; }
 
 private:
     CEGUI::Window& d_content;
     CEGUI::Window* d_hoverTarget = nullptr;
     std::function<void()> d_whenShown;
+    std::function<void()> d_animation;
+    std::vector<int> d_animationFrames;
     std::vector<CEGUI::Window*> d_windows;
 };
 
@@ -73,5 +84,6 @@ std::vector<Sample> inputSamples();
 std::vector<Sample> chartSamples();
 std::vector<Sample> menuSamples();
 std::vector<Sample> tabSamples();
+std::vector<Sample> windowSamples();
 
 } // namespace gallery

@@ -14,6 +14,7 @@
 #include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
 #include <GLFW/glfw3.h>
 #include <clocale>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -174,6 +175,29 @@ std::string fileNameFor(const String& type)
     return name.substr(name.find('/') + 1) + ".png";
 }
 
+// Frames of a card's animation, as "<Type>-frameNN.png"; they join no gallery picture.
+void photographAnimation(const gallery::GalleryPage::CardInfo& card, const Rectf& area,
+                         const std::string& dir)
+{
+    card.animate();
+    const std::string base = fileNameFor(card.type);
+    const std::string stem = base.substr(0, base.size() - 4);
+    int drawn = 0;
+    for (int wanted : card.animationFrames)
+    {
+        gallery::Picture picture;
+        while (drawn < wanted)
+        {
+            renderFrame(1.0f / 60);
+            ++drawn;
+            picture = readBack(area);
+        }
+        char suffix[16];
+        std::snprintf(suffix, sizeof suffix, "-frame%02d.png", wanted);
+        gallery::writePng(dir + "/" + stem + suffix, picture);
+    }
+}
+
 int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::string& dir)
 {
     std::filesystem::create_directories(dir);
@@ -197,6 +221,8 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
             capturing->releaseInput();
         gallery::writePng(dir + "/" + fileNameFor(card.type), shots.back());
         glfwSwapBuffers(window);
+        if (card.animate)
+            photographAnimation(card, area, dir);
     }
 
     // The whole gallery: the cards in two columns, as on screen.

@@ -34,6 +34,16 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
     setNESWSizingCursorImage(&lookImage(NEastSWestCursorImageName));
 }
 
+void MXFrameWindow::initialiseComponents()
+{
+    FrameWindowEx::initialiseComponents();
+    // The title bar came after the minimise and roll-up buttons; they sit on it.
+    for (Window* button :
+         {static_cast<Window*>(d_minimizeButton), static_cast<Window*>(d_titleizeButton)})
+        if (button)
+            button->moveInFront(getTitlebar());
+}
+
 Titlebar* MXFrameWindow::createTitlebar(const String& name) const
 {
     return createAutoPart<Titlebar>(TitlebarType, name, "a frame window's title bar");

@@ -64,6 +64,7 @@ public:
     static Rectf animationFrame(const Rectf& window, const Rectf& taskbar, unsigned step,
                                 bool restoring);
 
+    void initialiseComponents() override;
     void populateGeometryBuffer() override;
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;

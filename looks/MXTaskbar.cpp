@@ -5,6 +5,7 @@
 #include "widgets/ButtonDrawState.h"
 #include "widgets/FrameWindowEx.h"
 
+#include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/Renderer.h>
@@ -47,6 +48,25 @@ void MXTaskbar::layoutButtons()
         next.d_x += entry.button->getPixelSize().d_width;
         entry.button->setSelected(entry.window->isActive());
     }
+}
+
+void MXTaskbar::notifyScreenAreaChanged(bool recursive)
+{
+    Taskbar::notifyScreenAreaChanged(recursive);
+    tellButtonRectangles();
+}
+
+void MXTaskbar::tellButtonRectangles()
+{
+    const Vector2f origin = getUnclippedOuterRect().get().getPosition();
+    for (const Entry& entry : d_entries)
+        if (entry.button->isVisible())
+        {
+            Rectf onScreen(CoordConverter::asAbsolute(entry.button->getPosition(), getPixelSize()),
+                           entry.button->getPixelSize());
+            onScreen.offset(origin);
+            entry.window->setRectangleOnTaskbar(onScreen);
+        }
 }
 
 void MXTaskbar::populateGeometryBuffer()

@@ -28,10 +28,15 @@ public:
     void setButtonPositionOffset(const Vector2f& offset) override { d_buttonOffset = offset; }
     const Vector2f& getButtonPositionOffset() const { return d_buttonOffset; }
 
+    //! A moved bar tells its windows where their buttons are now.
+    void notifyScreenAreaChanged(bool recursive = true) override;
+
 protected:
     void populateGeometryBuffer() override;
 
 private:
+    void tellButtonRectangles();
+
     ThreePieceBar d_bar;
     Vector2f d_buttonOffset{4, 4};
 };
