@@ -83,26 +83,28 @@ Rectf ListDrawing::renderArea(const Listbox& list) const
     return area;
 }
 
+void ListDrawing::styleItem(ListboxItem& item, const Image* brush)
+{
+    if (!item.getSelectionBrushImage())
+        item.setSelectionBrushImage(brush);
+    // CEGUI tints the brush dark blue by default; this brush is coloured already.
+    if (sameColour(item.getSelectionColours(), ListboxItem::DefaultSelectionColour))
+        item.setSelectionColours(Colour(0xFFFFFFFF));
+    // CEGUI's default text colour is white, for dark skins; on this light list a host's
+    // own choice is kept, the default becomes ink.
+    if (auto* text = dynamic_cast<ListboxTextItem*>(&item))
+    {
+        if (sameColour(text->getTextColours(), ListboxTextItem::DefaultTextColour))
+            text->setTextColours(ItemTextColour);
+    }
+}
+
 void ListDrawing::contentsChanged(Listbox& list)
 {
     d_measured = false;
     d_hovered = nullptr;
     for (std::size_t i = 0; i < list.getItemCount(); ++i)
-    {
-        ListboxItem* item = list.getListboxItemFromIndex(i);
-        if (!item->getSelectionBrushImage())
-            item->setSelectionBrushImage(d_selectionBrush);
-        // CEGUI tints the brush dark blue by default; this brush is coloured already.
-        if (sameColour(item->getSelectionColours(), ListboxItem::DefaultSelectionColour))
-            item->setSelectionColours(Colour(0xFFFFFFFF));
-        // CEGUI's default text colour is white, for dark skins; on this light list a host's
-        // own choice is kept, the default becomes ink.
-        if (auto* text = dynamic_cast<ListboxTextItem*>(item))
-        {
-            if (sameColour(text->getTextColours(), ListboxTextItem::DefaultTextColour))
-                text->setTextColours(ItemTextColour);
-        }
-    }
+        styleItem(*list.getListboxItemFromIndex(i), d_selectionBrush);
 }
 
 void ListDrawing::measure(const Listbox& list)

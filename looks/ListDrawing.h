@@ -51,6 +51,10 @@ public:
 
     const NinePieceFrame& frame() const { return d_frame; }
 
+    //! Gives an item the look's brush (unless it has one) and, where CEGUI's white default
+    //! text colour is left, the look's ink.
+    static void styleItem(ListboxItem& item, const Image* brush);
+
 private:
     void measure(const Listbox& list);
 

@@ -8,8 +8,10 @@
 #include "looks/MXDiagram.h"
 #include "looks/MXEditbox.h"
 #include "looks/MXFrameWindow.h"
+#include "looks/MXListHeader.h"
 #include "looks/MXListbox.h"
 #include "looks/MXMenus.h"
+#include "looks/MXMultiColumnList.h"
 #include "looks/MXMultiLineEditBox.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
@@ -49,6 +51,8 @@ MXListboxRendererFactory s_listboxRenderer;
 MXItemListRendererFactory s_itemListRenderer;
 MXMenuItemRendererFactory s_menuItemRenderer;
 MXTabControlRendererFactory s_tabControlRenderer;
+MXListHeaderRendererFactory s_listHeaderRenderer;
+MXMultiColumnListRendererFactory s_multiColumnListRenderer;
 MXTooltipRendererFactory s_tooltipRenderer;
 
 MXStaticLayoutFactory s_staticLayout;
@@ -97,6 +101,10 @@ MXCloseButtonFactory s_closeButton;
 MXFrameWindowFactory s_frameWindow;
 MXTaskbarButtonFactory s_taskbarButton;
 MXTaskbarFactory s_taskbar;
+MXListHeaderSegmentFactory s_listHeaderSegment;
+MXListHeaderFactory s_listHeader;
+MXMultiColumnListFactory s_multiColumnList;
+MXMultiColumnListExFactory s_multiColumnListEx;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -106,6 +114,8 @@ const std::array k_table{
     FactoryEntry{MXStaticImageEx::WidgetTypeName, &s_staticImageEx, nullptr},
     FactoryEntry{MXButton::WidgetTypeName, &s_button, nullptr},
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
+    FactoryEntry{MXMultiColumnListEx::WidgetTypeName, &s_multiColumnListEx,
+                 &s_multiColumnListRenderer},
     FactoryEntry{MXTitlebar::WidgetTypeName, &s_titlebar, nullptr},
     FactoryEntry{MXCloseButton::WidgetTypeName, &s_closeButton, nullptr},
     FactoryEntry{MXFrameWindow::WidgetTypeName, &s_frameWindow, nullptr},
@@ -126,6 +136,9 @@ const std::array k_table{
     FactoryEntry{MXWidgetDropDownListbox::WidgetTypeName, &s_widgetDropDownListbox, nullptr},
     FactoryEntry{MXMultiLineEditBox::WidgetTypeName, &s_multiLineEditBox,
                  &s_multiLineEditBoxRenderer},
+    FactoryEntry{MXListHeaderSegment::WidgetTypeName, &s_listHeaderSegment, nullptr},
+    FactoryEntry{MXListHeader::WidgetTypeName, &s_listHeader, &s_listHeaderRenderer},
+    FactoryEntry{MXMultiColumnList::WidgetTypeName, &s_multiColumnList, &s_multiColumnListRenderer},
     FactoryEntry{MXTabControl::WidgetTypeName, &s_tabControl, &s_tabControlRenderer},
     FactoryEntry{MXTabButton::WidgetTypeName, &s_tabButton, nullptr},
     FactoryEntry{MXTabPane::WidgetTypeName, &s_tabPane, nullptr},
