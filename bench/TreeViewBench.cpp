@@ -3,6 +3,7 @@
 // redraw), a scroll and a plain redraw should follow the lines on screen.
 #include "BenchCegui.h"
 #include "widgets/TreeView.h"
+#include "widgets/TreeViewMultiColumnListEx.h"
 
 #include <CEGUI/CEGUI.h>
 #include <benchmark/benchmark.h>
@@ -12,10 +13,9 @@ using CEGUI::MoxieLook::TreeView;
 
 namespace
 {
-TreeView& makeTree(int titles)
+TreeView& makeTree(int titles, const char* type = "MoxieLook/TreeView")
 {
-    auto& tree =
-        static_cast<TreeView&>(*WindowManager::getSingleton().createWindow("MoxieLook/TreeView"));
+    auto& tree = static_cast<TreeView&>(*WindowManager::getSingleton().createWindow(type));
     tree.setArea(UVector2(cegui_absdim(0), cegui_absdim(0)),
                  USize(cegui_absdim(400), cegui_absdim(600)));
     moxiebench::sheet().addChild(&tree);
@@ -77,8 +77,32 @@ void treeRedraw(benchmark::State& state)
     }
     finish(state, tree);
 }
+// The tree list, three columns: the same lines, each with two cells more.
+void treeListRedraw(benchmark::State& state)
+{
+    auto& tree = static_cast<MoxieLook::TreeViewMultiColumnListEx&>(
+        makeTree(static_cast<int>(state.range(0)), "MoxieLook/TreeViewMultiColumnListEx"));
+    tree.addColumn("Name", 0, cegui_absdim(200));
+    tree.addColumn("Size", 1, cegui_absdim(80));
+    tree.addColumn("Kind", 2, cegui_absdim(100));
+    for (TreeView::Node* title : {tree.GetRootNode()->GetFirstChild()})
+        for (const auto& leaf : title->GetChildren())
+        {
+            auto* node = static_cast<MoxieLook::TreeViewMultiColumnListEx::NodeIndex*>(leaf.get());
+            node->SetColumnText(1, "12 KB");
+            node->SetColumnText(2, "Text");
+        }
+    tree.render();
+    for (auto _ : state)
+    {
+        tree.invalidate();
+        tree.render();
+    }
+    finish(state, tree);
+}
 } // namespace
 
+BENCHMARK(treeListRedraw)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(treeHoverChange)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(treeScroll)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(treeRedraw)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);

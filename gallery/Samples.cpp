@@ -162,7 +162,8 @@ const std::vector<Sample>& samples()
     {
         std::vector<Sample> gathered;
         for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
-                           chartSamples, menuSamples, tabSamples, windowSamples})
+                           chartSamples, menuSamples, tabSamples, windowSamples,
+                           columnSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

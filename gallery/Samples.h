@@ -85,5 +85,6 @@ std::vector<Sample> chartSamples();
 std::vector<Sample> menuSamples();
 std::vector<Sample> tabSamples();
 std::vector<Sample> windowSamples();
+std::vector<Sample> columnSamples();
 
 } // namespace gallery

@@ -3,6 +3,7 @@
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/MXScrollablePane.h"
+#include "widgets/TreeViewMultiColumnListEx.h"
 
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
@@ -22,36 +23,34 @@ TreeView::Node* MXTreeViewNode::CreateNode(const String& name, const String& tex
 
 const Image* MXTreeViewNode::GetNavigationImage() const
 {
-    return &lookImage(IsLeaf()     ? MXTreeView::LeafNodeImage
-                      : IsOpened() ? MXTreeView::OpenedNodeImage
-                                   : MXTreeView::ClosedNodeImage);
+    return MXTreeView::navigationImage(*this);
 }
 
-float MXTreeViewNode::renderFirstColumn(GeometryBuffer& buffer, const TreeView::Line& line,
-                                        const Rectf& clip, TreeView& tree)
+float renderTreeLine(TreeView::Node& node, GeometryBuffer& buffer, const TreeView::Line& line,
+                     const Rectf& clip, TreeView& tree)
 {
     const float alpha = tree.getEffectiveAlpha();
     const ColourRect white(withAlpha(Colour(0x00FFFFFF), alpha));
     const float bottom = line.y + line.height;
     float x = line.x;
-    if (const Image* nav = GetNavigationImage())
+    if (const Image* nav = node.GetNavigationImage())
     {
         const Sizef size = nav->getRenderedSize();
         nav->render(buffer, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
         x += size.d_width;
     }
-    if (const Image* icon = GetIcon())
+    if (const Image* icon = node.GetIcon())
     {
         const Sizef size = icon->getRenderedSize();
         icon->render(buffer, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
         x += size.d_width;
     }
-    const Font* font = IsLeaf() ? tree.getFont(true) : tree.GetTitleFont();
+    const Font* font = node.IsLeaf() ? tree.getFont(true) : tree.GetTitleFont();
     if (font)
     {
-        ColourRect colours(tree.GetColour(IsLeaf(), IsSelected(), IsHovered()));
+        ColourRect colours(tree.GetColour(node.IsLeaf(), node.IsSelected(), node.IsHovered()));
         colours.modulateAlpha(alpha);
-        font->drawText(buffer, GetText(), Vector2f(x, line.y), &clip, colours);
+        font->drawText(buffer, node.GetText(), Vector2f(x, line.y), &clip, colours);
     }
     return x;
 }
@@ -59,42 +58,58 @@ float MXTreeViewNode::renderFirstColumn(GeometryBuffer& buffer, const TreeView::
 void MXTreeViewNode::Render(GeometryBuffer& buffer, const TreeView::Line& line, const Rectf& clip,
                             TreeView& tree)
 {
-    renderFirstColumn(buffer, line, clip, tree);
+    renderTreeLine(*this, buffer, line, clip, tree);
 }
 
 // --- tree ---------------------------------------------------------------------------------
 
-MXTreeView::MXTreeView(const String& type, const String& name)
-    : TreeView(type, name), d_background(&lookImage(BackgroundImage))
+template <typename Base>
+const Image* TreeViewLookOf<Base>::navigationImage(const TreeView::Node& node)
+{
+    return &lookImage(node.IsLeaf()     ? LeafNodeImage
+                      : node.IsOpened() ? OpenedNodeImage
+                                        : ClosedNodeImage);
+}
+
+template <typename Base>
+TreeViewLookOf<Base>::TreeViewLookOf(const String& type, const String& name)
+    : Base(type, name), d_background(&lookImage(BackgroundImage))
 {
     d_frame.setImages({TopLeftImage, TopRightImage, BottomLeftImage, BottomRightImage, LeftImage,
                        TopImage, RightImage, BottomImage});
-    setMouseCursor(&lookImage(MouseCursorImageName));
+    this->setMouseCursor(&lookImage(MouseCursorImageName));
 }
 
-void MXTreeView::initialiseComponents()
+template <typename Base>
+float TreeViewLookOf<Base>::paneTop() const
 {
-    TreeView::initialiseComponents();
+    return d_frame.pieceHeight(NinePieceFrame::Top);
+}
+
+template <typename Base>
+void TreeViewLookOf<Base>::initialiseComponents()
+{
+    Base::initialiseComponents();
     // The pane, made the tree's size, sits inside the frame.
     const float l = d_frame.pieceWidth(NinePieceFrame::Left);
-    const float t = d_frame.pieceHeight(NinePieceFrame::Top);
+    const float t = paneTop();
     const float r = d_frame.pieceWidth(NinePieceFrame::Right);
     const float b = d_frame.pieceHeight(NinePieceFrame::Bottom);
-    GetScrollablePane()->setArea(UVector2(cegui_absdim(l), cegui_absdim(t)),
-                                 USize(UDim(1.0f, -(l + r)), UDim(1.0f, -(t + b))));
-    SetPixelIndent(IncrementPixelWidth);
+    this->GetScrollablePane()->setArea(UVector2(cegui_absdim(l), cegui_absdim(t)),
+                                       USize(UDim(1.0f, -(l + r)), UDim(1.0f, -(t + b))));
+    this->SetPixelIndent(IncrementPixelWidth);
     using namespace TreeViewProperties;
-    SetNormalTitleTextColour(
+    this->SetNormalTitleTextColour(
         PropertyHelper<Colour>::fromString(NormalTitleTextColourProperty::DefaultTextColour));
-    SetHoverTitleTextColour(
+    this->SetHoverTitleTextColour(
         PropertyHelper<Colour>::fromString(HoverTitleTextColourProperty::DefaultTextColour));
-    SetSelectedTitleTextColour(
+    this->SetSelectedTitleTextColour(
         PropertyHelper<Colour>::fromString(SelectedTitleTextColourProperty::DefaultTextColour));
-    SetNormalLeafTextColour(
+    this->SetNormalLeafTextColour(
         PropertyHelper<Colour>::fromString(NormalLeafTextColourProperty::DefaultTextColour));
-    SetHoverLeafTextColour(
+    this->SetHoverLeafTextColour(
         PropertyHelper<Colour>::fromString(HoverLeafTextColourProperty::DefaultTextColour));
-    SetSelectedLeafTextColour(
+    this->SetSelectedLeafTextColour(
         PropertyHelper<Colour>::fromString(SelectedLeafTextColourProperty::DefaultTextColour));
 }
 
@@ -103,11 +118,12 @@ TreeView::Node* MXTreeView::CreateRootNode()
     return new MXTreeViewNode(getName() + "_root", "", nullptr, nullptr);
 }
 
-ScrollablePane* MXTreeView::CreateScrollablePane()
+template <typename Base>
+ScrollablePane* TreeViewLookOf<Base>::CreateScrollablePane()
 {
     lookImage(TopLeftImage); // the imageset must have the list frame
     auto* pane = createAutoPart<ScrollablePane>(MXScrollablePane::WidgetTypeName,
-                                                getName() + "_scrollablePane",
+                                                this->getName() + "_scrollablePane",
                                                 "a tree view's scrollable pane");
     // The tree draws the frame and the field; the pane brings only its scroll bars,
     // inside the frame.
@@ -116,30 +132,36 @@ ScrollablePane* MXTreeView::CreateScrollablePane()
     return pane;
 }
 
-void MXTreeView::onSized(ElementEventArgs& e)
+template <typename Base>
+void TreeViewLookOf<Base>::onSized(ElementEventArgs& e)
 {
-    TreeView::onSized(e);
-    d_frame.setSize(getPixelSize());
+    Base::onSized(e);
+    d_frame.setSize(this->getPixelSize());
 }
 
-void MXTreeView::drawFrame(GeometryBuffer& buffer)
+template <typename Base>
+void TreeViewLookOf<Base>::drawFrame(GeometryBuffer& buffer)
 {
-    const float alpha = getEffectiveAlpha();
+    const float alpha = this->getEffectiveAlpha();
     const ColourRect white(withAlpha(Colour(0x00FFFFFF), alpha));
-    d_background->render(buffer, d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())), nullptr,
-                         white);
+    d_background->render(buffer, d_frame.innerRect(Rectf(Vector2f(0, 0), this->getPixelSize())),
+                         nullptr, white);
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }
 
-void MXTreeView::populateGeometryBuffer()
+template <typename Base>
+void TreeViewLookOf<Base>::populateGeometryBuffer()
 {
-    const Rectf visible = getOuterRectClipper();
+    const Rectf visible = this->getOuterRectClipper();
     if (!(visible.getWidth() > 0) || !(visible.getHeight() > 0))
         return;
-    drawFrame(getGeometryBuffer());
-    RenderNodes(getGeometryBuffer());
+    drawFrame(this->getGeometryBuffer());
+    this->RenderNodes(this->getGeometryBuffer());
 }
+
+template class TreeViewLookOf<TreeView>;
+template class TreeViewLookOf<TreeViewMultiColumnListEx>;
 
 } // namespace MoxieLook
 } // namespace CEGUI

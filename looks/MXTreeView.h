@@ -13,6 +13,11 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+//! The first column of a tree line: the navigation image, the icon, the text; returns the
+//! text's left.
+float renderTreeLine(TreeView::Node& node, GeometryBuffer& buffer, const TreeView::Line& line,
+                     const Rectf& clip, TreeView& tree);
+
 class MXTreeViewNode : public TreeView::Node
 {
 public:
@@ -25,17 +30,13 @@ public:
                 TreeView& tree) override;
     Node* CreateNode(const String& name, const String& text, Node* parent, void* data) override;
     const Image* GetNavigationImage() const override;
-
-protected:
-    //! The navigation image, the icon and the text of the line; returns the text's left.
-    float renderFirstColumn(GeometryBuffer& buffer, const TreeView::Line& line, const Rectf& clip,
-                            TreeView& tree);
 };
 
-class MXTreeView : public TreeView
+//! The look of a tree view `Base` (TreeView or a tree built on it): frame, field and pane.
+template <typename Base>
+class TreeViewLookOf : public Base
 {
 public:
-    static constexpr char WidgetTypeName[] = "MoxieLook/TreeView";
     static constexpr char ImagesetName[] = "MoxieLook";
     static constexpr char MouseCursorImageName[] = "MouseArrow";
     static constexpr char TopLeftImage[] = "StaticFrameListTopLeft";
@@ -52,13 +53,17 @@ public:
     static constexpr char LeafNodeImage[] = "NavigatePoint";
     static constexpr unsigned IncrementPixelWidth = 15;
 
-    MXTreeView(const String& type, const String& name);
+    //! The navigation image for a node in this state.
+    static const Image* navigationImage(const TreeView::Node& node);
+
+    TreeViewLookOf(const String& type, const String& name);
 
     void initialiseComponents() override;
 
 protected:
-    Node* CreateRootNode() override;
     ScrollablePane* CreateScrollablePane() override;
+    //! Where the pane goes, inside the frame (window-local pixels from the top).
+    virtual float paneTop() const;
     void populateGeometryBuffer() override;
     void onSized(ElementEventArgs& e) override;
 
@@ -67,6 +72,17 @@ protected:
 
     NinePieceFrame d_frame;
     const Image* d_background;
+};
+
+class MXTreeView : public TreeViewLookOf<TreeView>
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/TreeView";
+
+    using TreeViewLookOf::TreeViewLookOf;
+
+protected:
+    Node* CreateRootNode() override;
 };
 
 using MXTreeViewFactory = LookFactory<MXTreeView>;

@@ -29,6 +29,7 @@
 #include "looks/MXTooltip.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
+#include "looks/MXTreeViewMultiColumnListEx.h"
 #include "looks/MXWidgetDropDownList.h"
 
 #include <CEGUI/WindowFactoryManager.h>
@@ -105,6 +106,7 @@ MXListHeaderSegmentFactory s_listHeaderSegment;
 MXListHeaderFactory s_listHeader;
 MXMultiColumnListFactory s_multiColumnList;
 MXMultiColumnListExFactory s_multiColumnListEx;
+MXTreeViewMultiColumnListExFactory s_treeViewMultiColumnListEx;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -116,6 +118,8 @@ const std::array k_table{
     FactoryEntry{MXButtonEx::WidgetTypeName, &s_buttonEx, nullptr},
     FactoryEntry{MXMultiColumnListEx::WidgetTypeName, &s_multiColumnListEx,
                  &s_multiColumnListRenderer},
+    FactoryEntry{MXTreeViewMultiColumnListEx::WidgetTypeName, &s_treeViewMultiColumnListEx,
+                 nullptr},
     FactoryEntry{MXTitlebar::WidgetTypeName, &s_titlebar, nullptr},
     FactoryEntry{MXCloseButton::WidgetTypeName, &s_closeButton, nullptr},
     FactoryEntry{MXFrameWindow::WidgetTypeName, &s_frameWindow, nullptr},

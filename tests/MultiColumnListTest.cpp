@@ -1,5 +1,6 @@
 #include "looks/MXListHeader.h"
 #include "looks/MXMultiColumnList.h"
+#include "looks/MXTreeViewMultiColumnListEx.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 
@@ -178,4 +179,45 @@ TEST_F(MultiColumnListTest, SegmentStatesAndTheListFrame)
     EXPECT_EQ(frame[1], "StaticFrameListTopLeft");
     list.setWidth(cegui_absdim(0));
     EXPECT_TRUE(drawnBy(list).empty());
+}
+
+TEST_F(MultiColumnListTest, TreeColumnsFollowTheirSegments)
+{
+    auto& tree = static_cast<TreeViewMultiColumnListEx&>(
+        moxietest::place("MoxieLook/TreeViewMultiColumnListEx", 10, 10, 400, 200));
+    tree.addColumn("Name", 0, cegui_absdim(150));
+    tree.addColumn("Size", 1, cegui_absdim(80));
+    tree.addColumn("Kind", 2, cegui_absdim(90));
+    EXPECT_EQ(tree.getColumnCount(), 3u);
+    EXPECT_FALSE(tree.getListHeader()->isSortingEnabled());
+
+    auto* root = static_cast<TreeViewMultiColumnListEx::NodeIndex*>(tree.GetRootNode());
+    auto* docs =
+        static_cast<TreeViewMultiColumnListEx::NodeIndex*>(root->Add("docs", "Documents", nullptr));
+    auto* file = static_cast<TreeViewMultiColumnListEx::NodeIndex*>(
+        docs->Add("report", "report.txt", nullptr));
+    file->SetColumnText(2, "Text");
+    EXPECT_EQ(file->GetColumnText(2), "Text");
+    EXPECT_EQ(file->GetColumnText(1), "");
+    EXPECT_EQ(file->GetColumnText(0), "report.txt");
+
+    // The lines sit below the header.
+    const Rectf header = tree.getListHeader()->getUnclippedOuterRect().get();
+    drawnBy(tree); // lays the tree out
+    EXPECT_GE(docs->GetHitRect().top(), header.bottom() - 3);
+
+    // The last text of the file's line is its "Kind" cell: it ends inside that column and
+    // moves right as much as the "Size" column widens.
+    auto kindRight = [&]
+    {
+        float right = 0;
+        for (const auto& quad : drawnBy(tree))
+            if (quad.image == "text")
+                right = std::max(right, quad.rect.right());
+        return right;
+    };
+    const float before = kindRight();
+    tree.getListHeader()->setColumnWidth(1, cegui_absdim(130));
+    const float after = kindRight();
+    EXPECT_NEAR(after - before, 50, 0.5f);
 }
