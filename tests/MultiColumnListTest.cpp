@@ -10,6 +10,7 @@
 #include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -108,7 +109,9 @@ TEST_F(MultiColumnListTest, RemovingShiftsTheLaterSavedRowsAndBadIdentifiersThro
     EXPECT_THROW(list.HideRow(9), InvalidRequestException);
     EXPECT_THROW(list.ShowRow(9, 0), InvalidRequestException);
     EXPECT_THROW(list.getItemAtGridReference(MCLGridRef(0, 7)), InvalidRequestException);
-    EXPECT_THROW(list.setItem(cell("x"), 5, 0), InvalidRequestException);
+    // A refused item stays the caller's.
+    const std::unique_ptr<ListboxTextItem> stray(cell("x"));
+    EXPECT_THROW(list.setItem(stray.get(), 5, 0), InvalidRequestException);
     list.ShowRows(3, 1); // an empty range
     EXPECT_EQ(gridIds(list), (std::vector<uint>{0, 3}));
 }
