@@ -47,7 +47,10 @@ public:
     void setColours(const ColourRect& colours) { d_colours = colours; }
     const ColourRect& getColours() const { return d_colours; }
 
-    void draw(GeometryBuffer& buffer, const Vector2f& position, const Rectf* clip) const;
+    //! Only copies within `seen` (window-local), when given, are drawn: a huge tiled area
+    //! costs what can be seen.
+    void draw(GeometryBuffer& buffer, const Vector2f& position, const Rectf* clip,
+              const Rectf* seen = nullptr) const;
 
 private:
     const Image* d_image = nullptr;

@@ -2,6 +2,7 @@
 
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/Window.h>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -33,6 +34,12 @@ ColourRect faded(ColourRect colours, float alpha)
 ColourRect diagonalGradient(const Colour& primary, const Colour& secondary)
 {
     return ColourRect(primary, secondary, secondary, primary);
+}
+
+bool isFiniteRect(const Rectf& rect)
+{
+    return std::isfinite(rect.left()) && std::isfinite(rect.top()) && std::isfinite(rect.right()) &&
+           std::isfinite(rect.bottom());
 }
 
 bool hasVisibleArea(const Window& window)

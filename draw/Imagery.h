@@ -28,6 +28,9 @@ ColourRect faded(ColourRect colours, float alpha);
 //! Primary in the top-left and bottom-right corners, secondary in the other two.
 ColourRect diagonalGradient(const Colour& primary, const Colour& secondary);
 
+//! All four edges are numbers (a hostile size can make them NaN or infinite).
+bool isFiniteRect(const Rectf& rect);
+
 //! A window whose clipped width is 0 draws nothing at all.
 bool hasVisibleArea(const Window& window);
 

@@ -4,6 +4,7 @@
 // which CEGUI 0.8 does not redraw either.
 #pragma once
 
+#include "draw/ClipWatch.h"
 #include "draw/Imagery.h"
 
 #include <CEGUI/GeometryBuffer.h>
@@ -23,6 +24,17 @@ public:
         Base::notifyScreenAreaChanged(recursive);
         if (this->getGeometryBuffer().getVertexCount() == 0 && hasVisibleArea(*this))
             this->invalidate(false);
+        else if (d_drewOnlySeen && d_seen.uncovers(*this, this->getOuterRectClipper()))
+            this->invalidate(false);
+    }
+
+    //! The window-local area that can be seen now, for a draw that leaves out the rest (tiles
+    //! of a huge image); more coming into view later draws again.
+    Rectf seenForDrawing()
+    {
+        d_drewOnlySeen = true;
+        d_seen.drawnWith(*this, this->getOuterRectClipper());
+        return ClipWatch::localClip(*this, this->getOuterRectClipper());
     }
 
 protected:
@@ -31,6 +43,10 @@ protected:
         Base::onTextParsingChanged(e);
         this->invalidate(false);
     }
+
+private:
+    ClipWatch d_seen;
+    bool d_drewOnlySeen = false;
 };
 
 } // namespace MoxieLook

@@ -91,7 +91,8 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
     if (useCustomImage)
     {
         customImage.setColours(withAlpha(customImage.getColours(), alpha));
-        customImage.draw(buffer, area.d_min, nullptr);
+        const Rectf seen = seenForDrawing();
+        customImage.draw(buffer, area.d_min, nullptr, &seen);
     }
 
     const Font* font = getFont();

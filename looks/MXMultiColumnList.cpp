@@ -148,6 +148,10 @@ template <typename Base>
 Rectf MultiColumnListLookOf<Base>::listRenderArea() const
 {
     Rectf area = frameInner();
+    // CEGUI's list and bars chase each other's positions until they compare equal: a size
+    // that is no number would never let them.
+    if (!isFiniteRect(area))
+        return Rectf(0, 0, 0, 0);
     if (!this->isChild(Base::ListHeaderName) || !this->isChild(Base::VertScrollbarName) ||
         !this->isChild(Base::HorzScrollbarName))
         return area;

@@ -89,6 +89,17 @@ Rectf MXScrollablePane::viewableArea() const
 
 void MXScrollablePane::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
 {
+    // CEGUI's pane configures its bars from a layout, and the layout notifies the content,
+    // which configures the bars: with sizes that never compare equal (NaN) that would not
+    // end. One layout at a time.
+    if (d_layingOut)
+        return;
+    d_layingOut = true;
+    struct Done
+    {
+        bool& flag;
+        ~Done() { flag = false; }
+    } done{d_layingOut};
     ScrollablePane::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
     Window* vert = partOrNull(*this, VertScrollbarName);
     Window* horz = partOrNull(*this, HorzScrollbarName);

@@ -58,6 +58,7 @@ private:
     const Image* d_background;
     bool d_frameEnabled = true;
     bool d_backgroundEnabled = true;
+    bool d_layingOut = false;
 };
 
 //! Forwards what CEGUI's ScrollablePane asks of a renderer to the look.

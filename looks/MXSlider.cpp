@@ -96,15 +96,21 @@ MXSlider::Ticks MXSlider::ticks() const
 {
     const float width = getPixelSize().d_width;
     const float max = getMaxValue();
-    if (d_tickFrequency <= 0 || max <= 0)
+    // Written so that NaN settings fail the tests too.
+    if (!(d_tickFrequency > 0) || !(max > 0))
         return {0.0f, 0};
     const float travel = width - getThumb()->getPixelSize().d_width;
     const float spacing =
         std::max(std::trunc(travel / max * getClickStep() * d_tickFrequency + 0.5f), 0.0f);
     // A spacing that rounds to nothing would mean endless ticks: draw none.
-    if (spacing <= 0)
+    if (!(spacing > 0) || !std::isfinite(spacing))
         return {0.0f, 0};
-    return {spacing, static_cast<int>(width / spacing) + 1};
+    // Ticks past what can be seen are not drawn (a window may be wider than any display).
+    const float seen =
+        std::min(width, getOuterRectClipper().right() - getUnclippedOuterRect().get().left());
+    if (!(seen >= 0))
+        return {spacing, 0};
+    return {spacing, static_cast<int>(seen / spacing) + 1};
 }
 
 void MXSlider::populateGeometryBuffer()

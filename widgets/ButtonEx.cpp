@@ -159,7 +159,8 @@ void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool us
             if (useCustomImage)
             {
                 customImage.setColours(withAlpha(customImage.getColours(), alpha));
-                customImage.draw(buffer, all.d_min, nullptr);
+                const Rectf seen = seenForDrawing();
+                customImage.draw(buffer, all.d_min, nullptr, &seen);
             }
         }
     }
@@ -167,7 +168,8 @@ void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool us
     {
         const Rectf inner = localFrameInnerRect();
         customImage.setColours(withAlpha(customImage.getColours(), alpha));
-        customImage.draw(buffer, inner.d_min, nullptr);
+        const Rectf seen = seenForDrawing();
+        customImage.draw(buffer, inner.d_min, nullptr, &seen);
     }
 
     drawImages(buffer, alpha);
@@ -200,10 +202,29 @@ void ButtonEx::MyOnSized()
 void ButtonEx::setDragging(bool on)
 {
     d_dragging = on;
-    if (Window* parent = getParent())
-        parent->setMutedState(on);
+    if (on)
+    {
+        d_mutedParent = getParent();
+        if (d_mutedParent)
+            d_mutedParent->setMutedState(true);
+    }
+    else
+    {
+        // Only the parent it muted, and only while it is still the parent.
+        if (d_mutedParent && d_mutedParent == getParent())
+            d_mutedParent->setMutedState(false);
+        d_mutedParent = nullptr;
+    }
     setClippedByParent(!on);
     setModalState(on);
+}
+
+void ButtonEx::onDestructionStarted(WindowEventArgs& e)
+{
+    if (d_dragging)
+        setDragging(false);
+    d_mouseHeld = false;
+    PushButtonEx::onDestructionStarted(e);
 }
 
 bool ButtonEx::MouseDown(const EventArgs& args)

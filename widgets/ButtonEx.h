@@ -111,6 +111,8 @@ protected:
     void drawDisabled() override;
     void onSized(ElementEventArgs& e) override;
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+    //! A drag ends with the window: the parent is unmuted and the modal state let go.
+    void onDestructionStarted(WindowEventArgs& e) override;
 
     // MultiImage's hooks.
     void MyOnSized() override;
@@ -143,6 +145,7 @@ private:
     Vector2f d_grabOffset{0, 0};
     std::uint32_t d_accumulatedMovement = 0;
     bool d_dragging = false;
+    Window* d_mutedParent = nullptr;
     bool d_mouseHeld = false;
     const Image* d_normalBackground = nullptr;
     const Image* d_hoverBackground = nullptr;

@@ -105,7 +105,8 @@ void StaticImage::drawContent(GeometryBuffer& buffer, const Rectf& inner)
     FormattedImage image = d_image;
     image.setSize(inner.getSize());
     image.setColours(faded(d_image.getColours(), getEffectiveAlpha()));
-    image.draw(buffer, inner.d_min, nullptr);
+    const Rectf seen = seenForDrawing();
+    image.draw(buffer, inner.d_min, nullptr, &seen);
 }
 
 } // namespace MoxieLook

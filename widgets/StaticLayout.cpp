@@ -370,20 +370,40 @@ void StaticLayout::setDragging(bool on)
     {
         mbDraggingInProgress = true;
         mplayoutModifier = this;
+        d_mutedParent = parent;
         if (parent)
             parent->setMutedState(true);
+        setClippedByParent(false);
+        setModalState(true);
+        // Last: a handler may end the drag, even destroy the window.
         DragEventArgs args(this, parent);
         fireEvent(EventDragStarted, args, "");
+        return;
     }
     else if (mplayoutModifier == this)
     {
-        if (parent)
+        // Only the parent it muted, and only while it is still the parent.
+        if (d_mutedParent && d_mutedParent == parent)
             parent->setMutedState(false);
+        d_mutedParent = nullptr;
         mplayoutModifier = nullptr;
         mbDraggingInProgress = false;
     }
     setClippedByParent(!on);
     setModalState(on);
+}
+
+void StaticLayout::onDestructionStarted(WindowEventArgs& e)
+{
+    if (d_dragging)
+        setDragging(false);
+    d_armed = false;
+    if (mplayoutModifier == this)
+    {
+        mplayoutModifier = nullptr;
+        mbDraggingInProgress = false;
+    }
+    Static::onDestructionStarted(e);
 }
 
 bool StaticLayout::MouseDown(const EventArgs& args)

@@ -81,6 +81,9 @@ public:
     void ClearSourceDragInfo() { d_sourceDragInfo.clear(); }
 
 protected:
+    //! A drag ends with the window: the parent is unmuted, the modal state let go, and the
+    //! class-wide drag state cleared.
+    void onDestructionStarted(WindowEventArgs& e) override;
     void addChild_impl(Element* element) override;
     void removeChild_impl(Element* element) override;
     void onSized(ElementEventArgs& e) override;
@@ -117,6 +120,7 @@ private:
     Vector2f d_mouseDownPosition{0, 0};
     std::uint32_t d_accumulatedMovement = 0;
     bool d_dragging = false;
+    Window* d_mutedParent = nullptr;
     bool d_armed = false;
     std::set<Window*> d_dropTargets;
     UVector2 d_positionBeforeDrag;

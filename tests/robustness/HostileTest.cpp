@@ -1,0 +1,119 @@
+// Hostile property texts and sizes on every type of the module: a CEGUI exception is a
+// fine answer; a crash, a sanitizer report or a hang is not.
+#include "robustness/ModuleTypes.h"
+#include "support/Gui.h"
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+#include <cstdio>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+using namespace CEGUI;
+
+namespace
+{
+// Runs `action`; true when it threw what the module may throw.
+template <typename Action>
+bool refused(Action action)
+{
+    try
+    {
+        action();
+        return false;
+    }
+    catch (const CEGUI::Exception&)
+    {
+        return true;
+    }
+    catch (const std::out_of_range&)
+    {
+        return true;
+    }
+}
+
+std::vector<String> propertyNames(const Window& window)
+{
+    std::vector<String> names;
+    auto properties = window.getPropertyIterator();
+    for (; !properties.isAtEnd(); ++properties)
+        names.push_back(properties.getCurrentKey());
+    return names;
+}
+} // namespace
+
+TEST(Robustness, EveryPropertyOfEveryTypeTakesHostileTexts)
+{
+    const auto types = moxietest::moduleTypeNames();
+    ASSERT_GE(types.size(), 51u);
+    for (const String& type : types)
+    {
+        moxietest::freshSheet();
+        const std::vector<String> properties =
+            propertyNames(*moxietest::makeSample(type, 20, 20, 200, 100));
+        std::size_t sets = 0, refusals = 0;
+        for (const String& property : properties)
+        {
+            if (moxietest::skippedProperty(property))
+                continue;
+            // Each property on a window of its own, so that a fault shows where it starts.
+            moxietest::freshSheet();
+            Window* window = moxietest::makeSample(type, 20, 20, 200, 100);
+            if (getenv("MOXIE_TRACE"))
+                fprintf(stderr, "%s %s\n", type.c_str(), property.c_str());
+            for (const std::string& text : moxietest::hostileTexts())
+            {
+                SCOPED_TRACE(std::string(type.c_str()) + " " + property.c_str() + " = \"" +
+                             text.substr(0, 40) + "\"");
+                ++sets;
+                refusals += refused([&] { window->setProperty(property, String(text)); });
+                refused([&] { (void)window->getProperty(property); });
+                moxietest::renderFrame();
+            }
+        }
+        EXPECT_GT(sets, 0u) << type;
+        (void)refusals;
+    }
+}
+
+// The same texts one after the other on one window per type: faults that need an earlier
+// hostile value (a NaN size, then another setting) show here.
+TEST(Robustness, HostileTextsPileUpOnOneWindowPerType)
+{
+    for (const String& type : moxietest::moduleTypeNames())
+    {
+        moxietest::freshSheet();
+        Window* window = moxietest::makeSample(type, 20, 20, 200, 100);
+        for (const String& property : propertyNames(*window))
+        {
+            if (moxietest::skippedProperty(property))
+                continue;
+            if (getenv("MOXIE_TRACE"))
+                fprintf(stderr, "%s %s\n", type.c_str(), property.c_str());
+            for (const std::string& text : moxietest::hostileTexts())
+            {
+                refused([&] { window->setProperty(property, String(text)); });
+                refused([&] { (void)window->getProperty(property); });
+                moxietest::renderFrame();
+            }
+        }
+    }
+}
+
+TEST(Robustness, EveryTypeDrawsAtDegenerateAndHugeSizes)
+{
+    const Sizef sizes[] = {{0, 0}, {1, 1}, {100000, 100000}, {-50, -20}};
+    for (const String& type : moxietest::moduleTypeNames())
+    {
+        moxietest::freshSheet();
+        Window* window = moxietest::makeSample(type, 10, 10, 100, 40);
+        for (const Sizef& size : sizes)
+        {
+            SCOPED_TRACE(std::string(type.c_str()));
+            window->setSize(USize(cegui_absdim(size.d_width), cegui_absdim(size.d_height)));
+            moxietest::renderFrame();
+        }
+    }
+}
