@@ -10,6 +10,7 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
+#include <chrono>
 #include <cstdlib>
 
 namespace moxietest
@@ -112,7 +113,14 @@ void pointerTo(float x, float y)
 
 void leftDown()
 {
+    // CEGUI times clicks in microseconds: two presses in the same microsecond would count as
+    // a double click however small the timeout.
+    static auto last = std::chrono::steady_clock::now() - std::chrono::seconds(1);
+    while (std::chrono::steady_clock::now() - last < std::chrono::microseconds(5))
+    {
+    }
     context().injectMouseButtonDown(CEGUI::LeftButton);
+    last = std::chrono::steady_clock::now();
 }
 
 void leftUp()
