@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(
-    build-essential cmake pkg-config clang
+    build-essential cmake pkg-config clang libclang-rt-dev
     libcegui-mk2-dev libcegui-mk2-data fonts-dejavu-core
     googletest libgtest-dev libbenchmark-dev
     libcairo2-dev libpcre2-dev locales-all

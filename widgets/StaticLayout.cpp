@@ -2,10 +2,12 @@
 
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/PropertyHelper.h>
+#include <CEGUI/WindowManager.h>
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <stdexcept>
 
 namespace CEGUI
 {
@@ -156,8 +158,12 @@ void StaticLayout::addChild_impl(Element* element)
     {
         Window* child = static_cast<Window*>(element);
         if (d_currentBorder > CenterBorder)
-            throw LayoutException("BorderLayout error : trying to add " + child->getName() +
-                                  "  in " + getName() + " without specified border");
+        {
+            const String message = "BorderLayout error : trying to add " + child->getName() +
+                                   "  in " + getName() + " without specified border";
+            abandonLoadedTree(child);
+            throw LayoutException(message);
+        }
         d_regions[d_currentBorder] = child;
         d_currentBorder = NoBorder;
     }
@@ -393,6 +399,37 @@ void StaticLayout::setDragging(bool on)
     setModalState(on);
 }
 
+namespace
+{
+// Reads any window's initialisation flag (set while a layout file builds it).
+struct InitialisationProbe : Window
+{
+    static bool initialising(const Window& window)
+    {
+        return window.*(&InitialisationProbe::d_initialising);
+    }
+};
+} // namespace
+
+void StaticLayout::abandonLoadedTree(Window* refusedChild)
+{
+    // Only inside a layout load: this window and all its ancestors being initialised, the
+    // top one not yet given to anyone. CEGUI's loader cleans up only after its own
+    // exceptions, so the windows it made so far would stay behind.
+    const Window* top = this;
+    for (; top; top = top->getParent())
+    {
+        if (!InitialisationProbe::initialising(*top))
+            return;
+        if (!top->getParent())
+            break;
+    }
+    WindowManager& windows = WindowManager::getSingleton();
+    if (refusedChild && !refusedChild->getParent())
+        windows.destroyWindow(refusedChild);
+    windows.destroyWindow(const_cast<Window*>(top));
+}
+
 void StaticLayout::onDestructionStarted(WindowEventArgs& e)
 {
     if (d_dragging)
@@ -566,8 +603,18 @@ String GridSizeProperty::get(const PropertyReceiver*) const
 
 void GridSizeProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    const auto [rows, cols] = parseGridSize(value.c_str());
-    layoutOf(receiver).SetGridSize(rows, cols);
+    StaticLayout& layout = layoutOf(receiver);
+    std::pair<unsigned, unsigned> size;
+    try
+    {
+        size = parseGridSize(value.c_str());
+    }
+    catch (const std::out_of_range&)
+    {
+        layout.abandonLoadedTree(nullptr);
+        throw;
+    }
+    layout.SetGridSize(size.first, size.second);
 }
 
 std::pair<unsigned, unsigned> parseGridSize(const std::string& text)

@@ -80,6 +80,10 @@ public:
     std::vector<std::string>& GetSourceDragInfo() { return d_sourceDragInfo; }
     void ClearSourceDragInfo() { d_sourceDragInfo.clear(); }
 
+    //! A layout file failed on this window: the windows loaded so far (and `refusedChild`,
+    //! which was never added) are destroyed. Outside a load, nothing happens.
+    void abandonLoadedTree(Window* refusedChild);
+
 protected:
     //! A drag ends with the window: the parent is unmuted, the modal state let go, and the
     //! class-wide drag state cleared.
