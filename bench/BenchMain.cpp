@@ -4,6 +4,11 @@
 #include <CEGUI/RendererModules/Null/Renderer.h>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
+#include <iomanip>
+#include <map>
+#include <ostream>
+#include <string>
+#include <vector>
 
 using namespace CEGUI;
 
@@ -43,11 +48,61 @@ Window& sheet()
 }
 } // namespace moxiebench
 
+namespace
+{
+// The console report, then MoxieLook's time over TaharezLook's for every pair of runs whose
+// names differ only in the skin.
+class RatioReporter : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs)
+            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+                d_times[run.benchmark_name()] = run.GetAdjustedRealTime();
+    }
+
+    void Finalize() override
+    {
+        ConsoleReporter::Finalize();
+        std::ostream& out = GetOutputStream();
+        bool header = false;
+        for (const auto& [name, moxie] : d_times)
+        {
+            const std::string::size_type at = name.find("MoxieLook");
+            if (at == std::string::npos)
+                continue;
+            const auto other = d_times.find(std::string(name).replace(at, 9, "TaharezLook"));
+            if (other == d_times.end() || other->second <= 0)
+                continue;
+            if (!header)
+            {
+                out << "\n"
+                    << std::left << std::setw(44) << "MoxieLook / TaharezLook" << std::right
+                    << std::setw(12) << "MoxieLook" << std::setw(12) << "Taharez" << std::setw(8)
+                    << "ratio\n";
+                header = true;
+            }
+            std::string label = name;
+            label.erase(at, 9);
+            out << std::left << std::setw(44) << label << std::right << std::fixed
+                << std::setprecision(2) << std::setw(12) << moxie << std::setw(12) << other->second
+                << std::setw(8) << moxie / other->second << "\n";
+        }
+    }
+
+private:
+    std::map<std::string, double> d_times;
+};
+} // namespace
+
 int main(int argc, char** argv)
 {
     moxiebench::startCegui();
     benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
     moxiebench::stopCegui();
     return 0;

@@ -36,6 +36,17 @@ ColourRect diagonalGradient(const Colour& primary, const Colour& secondary)
     return ColourRect(primary, secondary, secondary, primary);
 }
 
+float pixelsOf(const UDim& dim, float base)
+{
+    const float pixels = dim.d_scale * base + dim.d_offset;
+    return std::isfinite(pixels) ? pixels : 0.0f;
+}
+
+Vector2f pixelsOf(const UVector2& position, const Sizef& base)
+{
+    return Vector2f(pixelsOf(position.d_x, base.d_width), pixelsOf(position.d_y, base.d_height));
+}
+
 bool isFiniteRect(const Rectf& rect)
 {
     return std::isfinite(rect.left()) && std::isfinite(rect.top()) && std::isfinite(rect.right()) &&

@@ -3,7 +3,10 @@
 
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/Size.h>
 #include <CEGUI/String.h>
+#include <CEGUI/UDim.h>
+#include <CEGUI/Vector.h>
 
 namespace CEGUI
 {
@@ -27,6 +30,11 @@ ColourRect faded(ColourRect colours, float alpha);
 
 //! Primary in the top-left and bottom-right corners, secondary in the other two.
 ColourRect diagonalGradient(const Colour& primary, const Colour& secondary);
+
+//! A UDim in pixels against `base`, 0 when it is no number. (CEGUI's CoordConverter rounds
+//! through an int, which a NaN or a huge value makes undefined.)
+float pixelsOf(const UDim& dim, float base);
+Vector2f pixelsOf(const UVector2& position, const Sizef& base);
 
 //! All four edges are numbers (a hostile size can make them NaN or infinite).
 bool isFiniteRect(const Rectf& rect);

@@ -6,6 +6,7 @@
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/widgets/TabButton.h>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -45,12 +46,13 @@ Window* MXTabControl::createTabContentPane(const String& name) const
 float MXTabControl::buttonRowHeight() const
 {
     const UDim height = getTabHeight();
+    const Font* font = getFont();
+    const float automatic = 8 + (font ? font->getFontHeight() : 0.0f);
     if (height.d_scale == 0 && height.d_offset == -1)
-    {
-        const Font* font = getFont();
-        return 8 + (font ? font->getFontHeight() : 0.0f);
-    }
-    return CoordConverter::asAbsolute(height, getPixelSize().d_height);
+        return automatic;
+    // Worked out here: CEGUI's own conversion turns a NaN into an int.
+    const float pixels = height.d_scale * getPixelSize().d_height + height.d_offset;
+    return std::isfinite(pixels) ? std::round(pixels) : automatic;
 }
 
 void MXTabControl::placePanes()
@@ -77,7 +79,7 @@ void MXTabControl::performChildWindowLayout(bool nonclientSizedHint, bool client
     TabControl::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
 
     const Window* pane = getTabButtonPane();
-    const Vector2f panePosition = CoordConverter::asAbsolute(pane->getPosition(), getPixelSize());
+    const Vector2f panePosition = pixelsOf(pane->getPosition(), getPixelSize());
     const Sizef paneSize = pane->getPixelSize();
     d_fillerSize = Sizef(paneSize.d_width, d_filler->getRenderedSize().d_height);
     d_fillerPosition =
@@ -86,7 +88,7 @@ void MXTabControl::performChildWindowLayout(bool nonclientSizedHint, bool client
     {
         const TabButton* last = d_tabButtonVector.back();
         const float x = last->getPixelSize().d_width + panePosition.d_x +
-                        CoordConverter::asAbsolute(last->getXPosition(), paneSize.d_width);
+                        pixelsOf(last->getXPosition(), paneSize.d_width);
         d_fillerPosition.d_x = x;
         d_fillerSize.d_width -= x;
     }

@@ -62,7 +62,7 @@ void MXTaskbar::tellButtonRectangles()
     for (const Entry& entry : d_entries)
         if (entry.button->isVisible())
         {
-            Rectf onScreen(CoordConverter::asAbsolute(entry.button->getPosition(), getPixelSize()),
+            Rectf onScreen(pixelsOf(entry.button->getPosition(), getPixelSize()),
                            entry.button->getPixelSize());
             onScreen.offset(origin);
             entry.window->setRectangleOnTaskbar(onScreen);

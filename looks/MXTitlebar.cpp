@@ -4,6 +4,8 @@
 #include "draw/TextDrawing.h"
 #include "looks/MXFrameWindow.h"
 
+#include <CEGUI/widgets/FrameWindow.h>
+
 namespace CEGUI
 {
 namespace MoxieLook
@@ -29,6 +31,41 @@ bool MXTitlebar::showsActive() const
 {
     const Window* window = getParent();
     return window && window->isActive();
+}
+
+bool MXTitlebar::onFrameWindow() const
+{
+    return dynamic_cast<const FrameWindow*>(getParent()) != nullptr;
+}
+
+void MXTitlebar::onMouseMove(MouseEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onMouseMove(e) : Window::onMouseMove(e);
+}
+
+void MXTitlebar::onMouseButtonDown(MouseEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onMouseButtonDown(e) : Window::onMouseButtonDown(e);
+}
+
+void MXTitlebar::onMouseButtonUp(MouseEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onMouseButtonUp(e) : Window::onMouseButtonUp(e);
+}
+
+void MXTitlebar::onMouseDoubleClicked(MouseEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onMouseDoubleClicked(e) : Window::onMouseDoubleClicked(e);
+}
+
+void MXTitlebar::onCaptureLost(WindowEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onCaptureLost(e) : Window::onCaptureLost(e);
+}
+
+void MXTitlebar::onFontChanged(WindowEventArgs& e)
+{
+    onFrameWindow() ? Titlebar::onFontChanged(e) : Window::onFontChanged(e);
 }
 
 void MXTitlebar::populateGeometryBuffer()

@@ -40,8 +40,18 @@ public:
 
 protected:
     void populateGeometryBuffer() override;
+    // CEGUI's title bar takes its parent for a frame window without asking; one placed
+    // anywhere else stays still instead.
+    void onMouseMove(MouseEventArgs& e) override;
+    void onMouseButtonDown(MouseEventArgs& e) override;
+    void onMouseButtonUp(MouseEventArgs& e) override;
+    void onMouseDoubleClicked(MouseEventArgs& e) override;
+    void onCaptureLost(WindowEventArgs& e) override;
+    void onFontChanged(WindowEventArgs& e) override;
 
 private:
+    bool onFrameWindow() const;
+
     ThreePieceBar d_bar;
     ThreePieceBar d_activeBar;
 };

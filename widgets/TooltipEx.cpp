@@ -14,8 +14,8 @@ namespace MoxieLook
 namespace
 {
 TooltipExProperties::TextColourProperty s_textColourProperty;
-// Halvings of the width range when balancing lines: far below a pixel for any tooltip.
-constexpr int BalanceSteps = 24;
+// Balancing lines narrows the width to within this many pixels.
+constexpr float BalancePrecision = 0.5f;
 } // namespace
 
 TooltipEx::TooltipEx(const String& type, const String& name)
@@ -180,7 +180,7 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
     if (wrapped(widestWord).first <= lines)
         fits = widestWord;
     float tooNarrow = widestWord;
-    for (int step = 0; step < BalanceSteps && fits > tooNarrow; ++step)
+    while (fits - tooNarrow > BalancePrecision)
     {
         const float width = (fits + tooNarrow) * 0.5f;
         (wrapped(width).first <= lines ? fits : tooNarrow) = width;

