@@ -145,7 +145,7 @@ TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
         Window* loaded = nullptr;
         try
         {
-            const CeguiParserLeaksIgnored ignored;
+            [[maybe_unused]] const CeguiParserLeaksIgnored ignored;
             loaded = WindowManager::getSingleton().loadLayoutFromString(text);
         }
         catch (const CEGUI::Exception&)
@@ -166,7 +166,7 @@ TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
     }
     for (const std::string& text : broken)
     {
-        const CeguiParserLeaksIgnored ignored;
+        [[maybe_unused]] const CeguiParserLeaksIgnored ignored;
         EXPECT_THROW(WindowManager::getSingleton().loadLayoutFromString(text), CEGUI::Exception);
         destroyDetachedWindows();
     }
