@@ -156,14 +156,24 @@ void decorate(MoxieLook::MultiImage& target, bool badge)
                         white);
 }
 
+Window& childOf(Window& parent, const String& type, const String& text, float x, float y, float w,
+                float h)
+{
+    Window& window = *WindowManager::getSingleton().createWindow(type);
+    window.setText(text);
+    window.setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
+                   USize(cegui_absdim(w), cegui_absdim(h)));
+    parent.addChild(&window);
+    return window;
+}
+
 const std::vector<Sample>& samples()
 {
     static const std::vector<Sample> all = []
     {
         std::vector<Sample> gathered;
         for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
-                           chartSamples, menuSamples, tabSamples, windowSamples,
-                           columnSamples})
+                           chartSamples, menuSamples, tabSamples, windowSamples, columnSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

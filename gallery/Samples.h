@@ -73,6 +73,10 @@ struct Sample
     std::function<void(Card&)> build;
 };
 
+//! A window of `type` with `text`, at (x, y) inside `parent`, w x h pixels.
+CEGUI::Window& childOf(CEGUI::Window& parent, const CEGUI::String& type, const CEGUI::String& text,
+                       float x, float y, float w, float h);
+
 //! Every card, gathered from the groups below.
 const std::vector<Sample>& samples();
 

@@ -20,17 +20,6 @@ Window& page(const String& title)
     return content;
 }
 
-Window& child(Window& parent, const String& type, const String& text, float x, float y, float w,
-              float h)
-{
-    Window& window = *WindowManager::getSingleton().createWindow(type);
-    window.setText(text);
-    window.setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
-                   USize(cegui_absdim(w), cegui_absdim(h)));
-    parent.addChild(&window);
-    return window;
-}
-
 Window& tabButton(TabControl& tabs, Window& content)
 {
     return *tabs.getChild(TabControl::TabButtonPaneName)
@@ -47,11 +36,11 @@ std::vector<Sample> tabSamples()
              auto& tabs =
                  static_cast<TabControl&>(card.add("MoxieLook/TabControl", "", 10, 10, 400, 150));
              Window& general = page("General");
-             child(general, "MoxieLook/StaticText", "Player name", 10, 12, 100, 22);
-             child(general, "MoxieLook/Editbox", "Moxie", 120, 10, 160, 26);
-             child(general, "MoxieLook/Checkbox", "Show hints", 10, 50, 160, 22)
+             childOf(general, "MoxieLook/StaticText", "Player name", 10, 12, 100, 22);
+             childOf(general, "MoxieLook/Editbox", "Moxie", 120, 10, 160, 26);
+             childOf(general, "MoxieLook/Checkbox", "Show hints", 10, 50, 160, 22)
                  .setProperty("Selected", "true");
-             child(general, "MoxieLook/Checkbox", "Autosave", 10, 78, 160, 22);
+             childOf(general, "MoxieLook/Checkbox", "Autosave", 10, 78, 160, 22);
              tabs.addTab(&general);
              Window& display = page("Display");
              tabs.addTab(&display);
@@ -76,7 +65,7 @@ std::vector<Sample> tabSamples()
          [](Card& card)
          {
              Window& pane = card.add("MoxieLook/TabPane", "", 10, 10, 300, 90);
-             child(pane, "MoxieLook/StaticText", "The area under the tabs", 10, 10, 240, 22);
+             childOf(pane, "MoxieLook/StaticText", "The area under the tabs", 10, 10, 240, 22);
          }},
         {"MoxieLook/Tooltip", 130,
          [](Card& card)

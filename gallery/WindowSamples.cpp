@@ -20,16 +20,6 @@ MXFrameWindow& frameWindow(Card& card, const String& title, float x, float y, fl
     return window;
 }
 
-Window& inside(Window& window, const String& type, const String& text, float x, float y, float w,
-               float h)
-{
-    Window& child = *WindowManager::getSingleton().createWindow(type);
-    child.setText(text);
-    child.setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
-                  USize(cegui_absdim(w), cegui_absdim(h)));
-    window.addChild(&child);
-    return child;
-}
 } // namespace
 
 std::vector<Sample> windowSamples()
@@ -39,14 +29,14 @@ std::vector<Sample> windowSamples()
          [](Card& card)
          {
              MXFrameWindow& inactive = frameWindow(card, "Inactive", 10, 10, 190, 140);
-             inside(inactive, "MoxieLook/StaticText", "Behind", 4, 8, 120, 24);
+             childOf(inactive, "MoxieLook/StaticText", "Behind", 4, 8, 120, 24);
              MXFrameWindow& rolled = frameWindow(card, "Rolled up", 400, 10, 190, 140);
              rolled.setRollupEnabled(true);
              rolled.getTitleizeButton()->show();
              rolled.toggleRollup();
              MXFrameWindow& active = frameWindow(card, "Active", 210, 10, 180, 160);
-             inside(active, "MoxieLook/StaticText", "Notes to self", 4, 8, 150, 24);
-             inside(active, "MoxieLook/Button", "OK", 4, 44, 80, 28);
+             childOf(active, "MoxieLook/StaticText", "Notes to self", 4, 8, 150, 24);
+             childOf(active, "MoxieLook/Button", "OK", 4, 44, 80, 28);
              active.getMinimizeButton()->show();
              card.whenShown([&active] { active.activate(); });
          }},
