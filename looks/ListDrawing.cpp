@@ -4,11 +4,14 @@
 #include "looks/AutoParts.h"
 
 #include <CEGUI/CoordConverter.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
 #include <CEGUI/System.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <algorithm>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -81,6 +84,30 @@ Rectf ListDrawing::renderArea(const Listbox& list) const
     area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
     area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
     return area;
+}
+
+void ListDrawing::drawItem(const ListboxItem& item, GeometryBuffer& buffer, const Rectf& rect,
+                           float alpha, const Rectf* clip)
+{
+    const auto* text = dynamic_cast<const ListboxTextItem*>(&item);
+    const Font* font = text ? text->getFont() : nullptr;
+    const String& words = item.getText();
+    if (!font || words.find_first_of("[\n") != String::npos)
+    {
+        item.draw(buffer, rect, alpha, clip);
+        return;
+    }
+    if (item.isSelected() && item.getSelectionBrushImage())
+    {
+        ColourRect brush = item.getSelectionColours();
+        brush.modulateAlpha(alpha);
+        item.getSelectionBrushImage()->render(buffer, rect, clip, brush);
+    }
+    // Where CEGUI's text item puts its line: the font's leading split above and below.
+    const float lead = std::round((font->getLineSpacing() - font->getFontHeight()) / 2);
+    ColourRect colours = text->getTextColours();
+    colours.modulateAlpha(alpha);
+    font->drawText(buffer, words, Vector2f(rect.left(), rect.top() + lead), clip, colours);
 }
 
 void ListDrawing::styleItem(ListboxItem& item, const Image* brush)
@@ -181,7 +208,7 @@ void ListDrawing::draw(Listbox& list)
             continue;
         if (item == d_hovered && !item->isSelected())
             d_hoverBrush->render(buffer, rect, &clip, white);
-        item->draw(buffer, rect, itemAlpha, &clip);
+        drawItem(*item, buffer, rect, itemAlpha, &clip);
     }
 }
 

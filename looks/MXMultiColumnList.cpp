@@ -200,7 +200,8 @@ void MultiColumnListLookOf<Base>::drawList()
             if (!item)
                 continue;
             ListDrawing::styleItem(*item, d_selectionBrush);
-            item->draw(buffer, Rectf(lefts[column], top, lefts[column + 1], bottom), alpha, &area);
+            ListDrawing::drawItem(
+                *item, buffer, Rectf(lefts[column], top, lefts[column + 1], bottom), alpha, &area);
         }
     }
 }

@@ -1,10 +1,14 @@
+#include "draw/Imagery.h"
+#include "looks/ListDrawing.h"
 #include "looks/MXCombobox.h"
 #include "looks/MXListbox.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/RecordingRenderer.h"
 
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/Renderer.h>
 #include <CEGUI/System.h>
 #include <CEGUI/widgets/Editbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
@@ -177,4 +181,32 @@ TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
     EXPECT_TRUE(drop.isVisible());
     context().injectChar('x');
     EXPECT_EQ(combo.getText(), "Amsterdam");
+}
+
+TEST_F(ListboxTest, APlainTextItemIsDrawnExactlyAsCeguiDrawsIt)
+{
+    Listbox& l = list(3);
+    ListboxItem& item = *l.getListboxItemFromIndex(1);
+    ListDrawing::styleItem(item, &lookImage("ListboxSelectionBrush"));
+    item.setSelected(true);
+    Renderer& renderer = *System::getSingleton().getRenderer();
+    auto& own = static_cast<moxietest::RecordingGeometryBuffer&>(renderer.createGeometryBuffer());
+    auto& fast = static_cast<moxietest::RecordingGeometryBuffer&>(renderer.createGeometryBuffer());
+    const Rectf rect(12.5f, 40, 180, 60);
+    const Rectf clip(0, 0, 150, 100);
+    item.draw(own, rect, 0.5f, &clip);
+    ListDrawing::drawItem(item, fast, rect, 0.5f, &clip);
+
+    const auto a = moxietest::decode(own);
+    const auto b = moxietest::decode(fast);
+    ASSERT_EQ(a.size(), b.size());
+    for (std::size_t i = 0; i < a.size(); ++i)
+    {
+        EXPECT_EQ(a[i].image, b[i].image);
+        EXPECT_EQ(a[i].rect, b[i].rect) << a[i] << " / " << b[i];
+        EXPECT_EQ(a[i].colours.d_top_left, b[i].colours.d_top_left);
+    }
+    EXPECT_EQ(own.getVertexCount(), fast.getVertexCount());
+    renderer.destroyGeometryBuffer(own);
+    renderer.destroyGeometryBuffer(fast);
 }
