@@ -20,6 +20,14 @@ std::string formatted(const char* format, const std::tm& time)
     return std::string(text, length);
 }
 
+// CEGUI's decoder reads up to three bytes past a cut-off sequence: give it zeros to read.
+String fromUtf8(const std::string& text)
+{
+    std::vector<utf8> padded(text.begin(), text.end());
+    padded.resize(text.size() + 4, 0);
+    return String(padded.data(), text.size());
+}
+
 String decimal(unsigned value)
 {
     return String(std::to_string(value).c_str());
@@ -69,16 +77,17 @@ void MXClock::probeLocale()
     localtime_r(&ProbeInstant, &probe);
     d_twelveHour = formatted("%c", probe).find("PM") != std::string::npos;
 
-    const std::string date = formatted("%x", probe);
-    const std::string::size_type at = date.find("27");
+    // Locale texts are UTF-8: read them as characters, not bytes.
+    const String date = fromUtf8(formatted("%x", probe));
+    const String::size_type at = date.find("27");
     if (at == 0)
     {
         d_dayFirst = true;
         if (date.size() > 2)
-            d_dateSeparator = String(date.substr(2, 1).c_str());
+            d_dateSeparator = date.substr(2, 1);
     }
-    else if (at != std::string::npos)
-        d_dateSeparator = String(date.substr(at - 1, 1).c_str());
+    else if (at != String::npos)
+        d_dateSeparator = date.substr(at - 1, 1);
 
     d_codes.fill(0);
     d_values.fill(String());
@@ -86,7 +95,7 @@ void MXClock::probeLocale()
     {
         std::tm day{};
         day.tm_wday = static_cast<int>((i + 1) % 7);
-        d_weekDayNames[i] = String(formatted("%a", day).c_str());
+        d_weekDayNames[i] = fromUtf8(formatted("%a", day));
     }
 }
 
@@ -116,7 +125,7 @@ void MXClock::SetCurTimeFormat(const std::string& format)
         else if (token == "/")
             d_format.push_back({false, d_dateSeparator});
         else
-            d_format.push_back({false, String(token.c_str())});
+            d_format.push_back({false, fromUtf8(token)});
     }
     refresh();
 }

@@ -74,7 +74,7 @@ public:
     //! The header's natural height for its font.
     float naturalHeight() const;
 
-    ListHeaderSegment* makeSegment(const String& name) const;
+    virtual ListHeaderSegment* makeSegment(const String& name) const;
     void populateGeometryBuffer() override;
 
 private:

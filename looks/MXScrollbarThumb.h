@@ -61,10 +61,10 @@ protected:
                          const char* gripperImageName, float minimumLengthWithGripRatio);
 
     void populateGeometryBuffer() override;
-    void drawNormal();
-    void drawHover();
-    void drawPushed();
-    void drawDisabled();
+    virtual void drawNormal();
+    virtual void drawHover();
+    virtual void drawPushed();
+    virtual void drawDisabled();
 
     void onSized(ElementEventArgs& e) override;
     void onAlphaChanged(WindowEventArgs& e) override;

@@ -15,7 +15,8 @@ const char* MXSlider::ThumbType = "MoxieLook/SliderThumb";
 MXSlider::MXSlider(const String& type, const String& name)
     : RedrawnWhenUncovered<Slider>(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
       d_trackMiddle(&lookImage(TrackMiddleImageName)),
-      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName))
+      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName)),
+      d_tickStamp(*d_tick)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
@@ -105,12 +106,11 @@ MXSlider::Ticks MXSlider::ticks() const
     // A spacing that rounds to nothing would mean endless ticks: draw none.
     if (!(spacing > 0) || !std::isfinite(spacing))
         return {0.0f, 0};
-    // Ticks past what can be seen are not drawn (a window may be wider than any display).
-    const float seen =
-        std::min(width, getOuterRectClipper().right() - getUnclippedOuterRect().get().left());
-    if (!(seen >= 0))
+    const float spaces = std::trunc(width / spacing);
+    if (!(spaces >= 0))
         return {spacing, 0};
-    return {spacing, static_cast<int>(seen / spacing) + 1};
+    constexpr float MostSpaces = 1e9f; // a window wider than any display
+    return {spacing, static_cast<int>(std::min(spaces, MostSpaces)) + 1};
 }
 
 void MXSlider::populateGeometryBuffer()
@@ -136,12 +136,23 @@ void MXSlider::populateGeometryBuffer()
                          white);
 
     const Ticks marks = ticks();
+    if (marks.count == 0)
+        return;
     const float thumbY =
         thumb->getUnclippedOuterRect().get().top() - getUnclippedOuterRect().get().top();
-    Vector2f at(area.left() + std::trunc(thumbSize.d_width * 0.5f + 0.5f),
-                area.top() + thumbY - d_tick->getRenderedSize().d_height);
-    for (int i = 0; i < marks.count; ++i, at.d_x += marks.spacing)
-        d_tick->render(buffer, at, nullptr, white);
+    const Sizef tick = d_tick->getRenderedSize();
+    const Vector2f first(area.left() + std::trunc(thumbSize.d_width * 0.5f + 0.5f),
+                         area.top() + thumbY - tick.d_height);
+    // Only the ticks that can be seen go into the geometry; more are drawn when uncovered.
+    const Rectf seen = seenForDrawing();
+    const float from =
+        std::max(std::ceil((seen.left() - first.d_x - tick.d_width) / marks.spacing), 0.0f);
+    const float to = std::min(std::floor((seen.right() - first.d_x) / marks.spacing),
+                              static_cast<float>(marks.count - 1));
+    if (!(from <= to))
+        return;
+    d_tickStamp.stamp(buffer, first, marks.spacing, static_cast<int>(from),
+                      static_cast<int>(to) + 1, white);
 }
 
 MXSliderThumb::MXSliderThumb(const String& type, const String& name)

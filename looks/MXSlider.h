@@ -4,6 +4,7 @@
 // the thumb: "SliderThumbNormal", "SliderThumbHover", cursor "MouseEsWeCursor".
 #pragma once
 
+#include "draw/ImageStamp.h"
 #include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 
@@ -41,7 +42,7 @@ public:
     struct Ticks
     {
         float spacing; //!< pixels between two ticks
-        int count;     //!< ticks drawn, one more than the spaces that fit
+        int count;     //!< one more than the spaces in the width; those in view are drawn
     };
     Ticks ticks() const;
 
@@ -58,6 +59,7 @@ private:
     const Image* d_trackMiddle;
     const Image* d_trackRight;
     const Image* d_tick;
+    ImageStamp d_tickStamp;
 };
 
 class MXSliderThumb : public RedrawnWhenUncovered<Thumb>
@@ -73,10 +75,10 @@ public:
 
 protected:
     void populateGeometryBuffer() override;
-    void drawNormal();
-    void drawHover();
-    void drawPushed();
-    void drawDisabled();
+    virtual void drawNormal();
+    virtual void drawHover();
+    virtual void drawPushed();
+    virtual void drawDisabled();
 
 private:
     void drawImage(const Image& image);

@@ -35,10 +35,10 @@ public:
                                   bool clientSizedHint = false) override;
 
     //! A new window of `TabButtonType` called `name`.
-    TabButton* createTabButton(const String& name) const;
+    virtual TabButton* createTabButton(const String& name) const;
     //! A new window of `TabContentPaneType`. CEGUI 0.8 names children per parent, so the
     //! pane takes `name` as it is (the control looks it up by `ContentPaneName`).
-    Window* createTabContentPane(const String& name) const;
+    virtual Window* createTabContentPane(const String& name) const;
 
     //! Where the filler lies, relative to the control (z stays 0).
     const Vector3f& getFillerPosition() const { return d_fillerPosition; }

@@ -47,7 +47,7 @@ void MXTooltip::updateSelf(float elapsed)
 
 const RenderedString& MXTooltip::targetText()
 {
-    const String& text = d_target->getTooltipText();
+    const String& text = d_target->getTooltipTextIncludingInheritance();
     if (text == getText())
         return getRenderedString();
     d_targetText = getRenderedStringParser().parse(text, getFont(), nullptr);

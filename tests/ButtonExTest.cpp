@@ -314,6 +314,12 @@ TEST_F(ButtonExTest, InnerRectanglesAreLocalAndExtraImagesStayPutWhenClipped)
     clipped.setSize(USize(cegui_absdim(100), cegui_absdim(30))); // placed again: same place
     EXPECT_EQ(clipped.GetImageRect(0), placed);
     EXPECT_EQ(placed, Rectf(2, 10, 12, 20));
+    // Right-aligned: against the whole inner rectangle, not the 40 pixels that show.
+    clipped.AddImage("MoxieLook", "BadgeRed", 0, 0, 1.0f, MultiImage::Right,
+                     ColourRect(Colour(0xFFFFFFFF)));
+    EXPECT_EQ(clipped.GetImageRect(1), Rectf(88, 10, 98, 20));
+    clipped.setSize(USize(cegui_absdim(100), cegui_absdim(30)));
+    EXPECT_EQ(clipped.GetImageRect(1), Rectf(88, 10, 98, 20));
 
     auto& image =
         static_cast<StaticImageEx&>(moxietest::place("MoxieLook/StaticImageEx", 0, 0, 80, 40));
@@ -330,6 +336,8 @@ TEST_F(ButtonExTest, LooksPublishTheirVocabularyAndSetTheArrowCursor)
     static_assert(std::string_view(MXButtonEx::DisabledBottomRightImageName) ==
                   "ButtonNormalBottomRight");
     static_assert(std::string_view(MXStaticLayout::ImagesetName) == "MoxieLook");
+    static_assert(std::string_view(MXButtonEx::MouseCursorImageName) == "MouseArrow");
+    static_assert(std::string_view(MXMenuButton::MouseCursorImageName) == "MouseArrow");
     const Image* arrow = &ImageManager::getSingleton().get("MoxieLook/MouseArrow");
     for (const char* type : {"MoxieLook/ButtonEx", "MoxieLook/MenuButton", "MoxieLook/StaticText",
                              "MoxieLook/StaticLayout", "MoxieLook/TextItem"})

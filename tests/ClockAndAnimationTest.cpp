@@ -179,6 +179,12 @@ TEST_F(ClockAndAnimationTest, ClockFollowsDayFirstAndTwelveHourLocales)
     EXPECT_EQ(german.getDateSeparator(), ".");
     EXPECT_EQ(german.GetWeekDayName(0), "Mo");
 
+    // Locale texts are UTF-8: names and separators are whole characters.
+    MXClock& spanish = clockIn("es_ES.UTF-8");
+    EXPECT_EQ(spanish.GetWeekDayName(2), String(reinterpret_cast<const utf8*>("mi\xC3\xA9")));
+    MXClock& japanese = clockIn("ja_JP.UTF-8");
+    EXPECT_EQ(japanese.getDateSeparator(), String(reinterpret_cast<const utf8*>("\xE6\x9C\x88")));
+
     MXClock& american = clockIn("en_US.UTF-8");
     ASSERT_TRUE(american.isTwelveHourLocale());
     EXPECT_FALSE(american.isDayFirstLocale());

@@ -120,6 +120,7 @@ TEST_F(MultiColumnListTest, HeaderClicksDoNotSortTheExtendedList)
 {
     MultiColumnListEx& list = exList(3);
     EXPECT_FALSE(list.isUserSortControlEnabled());
+    EXPECT_FALSE(list.isUserColumnDraggingEnabled()); // the saved rows keep column order
     list.setItem(cell("zzz"), 0, 0);
     const Rectf name = list.getHeaderSegmentForColumn(0).getUnclippedOuterRect().get();
     moxietest::pointerTo(name.left() + 20, name.top() + 5);

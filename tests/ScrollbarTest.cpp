@@ -237,6 +237,21 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     EXPECT_EQ(tickX, (std::vector<float>{6, 53, 100, 147, 194}));
     EXPECT_EQ(imageNames(drawnBy(slider))[0], "SliderTrackLeft");
 
+    // Partly clipped, only the ticks in view are drawn; uncovered, the rest follow.
+    auto tickLefts = [&]
+    {
+        std::vector<float> lefts;
+        for (const auto& quad : drawnBy(slider))
+            if (quad.image == "SliderTick")
+                lefts.push_back(quad.rect.left());
+        return lefts;
+    };
+    Window& holder = moxietest::place("DefaultWindow", 0, 0, 90, 100);
+    holder.addChild(&slider); // the slider at (10, 10) shows its left 80 pixels
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53}));
+    holder.setWidth(cegui_absdim(400));
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+
     // A spacing that rounds to 0, or no frequency: no ticks rather than endless ones.
     slider.setClickStep(0.001f);
     slider.setTickFrequency(1);

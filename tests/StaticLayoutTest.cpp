@@ -21,10 +21,12 @@ StaticLayout& layout(float w, float h, const char* rule, unsigned margin = 0)
     return l;
 }
 
-Window& child(StaticLayout& parent, float w, float h)
+Window& child(StaticLayout& parent, float w, float h, bool hidden = false)
 {
     Window* c = WindowManager::getSingleton().createWindow("MoxieLook/Button");
     c->setSize(USize(cegui_absdim(w), cegui_absdim(h)));
+    if (hidden)
+        c->hide(); // hidden before any layout saw it
     parent.addChild(c);
     return *c;
 }
@@ -94,8 +96,7 @@ TEST_F(StaticLayoutTest, FillStacksEveryChildOverTheAreaInsideTheMargin)
 {
     StaticLayout& l = layout(120, 80, "FillLayout", 4);
     Window& a = child(l, 10, 10);
-    Window& b = child(l, 50, 5);
-    b.hide();
+    Window& b = child(l, 50, 5, true);
     EXPECT_EQ(at(a), Rectf(4, 4, 116, 76));
     EXPECT_EQ(at(b), Rectf(4, 4, 116, 76));
 }
@@ -248,17 +249,14 @@ TEST_F(StaticLayoutTest, GridAndBorderLayOutHiddenChildrenAndHugeMarginsWrapSafe
 {
     StaticLayout& grid = layout(100, 60, "GridLayout", 2);
     grid.setProperty("GridSize", "rows:1 cols:2");
-    Window& first = child(grid, 5, 5);
-    first.hide();
+    Window& first = child(grid, 5, 5, true);
     Window& second = child(grid, 5, 5);
     EXPECT_EQ(at(first), Rectf(2, 2, 49, 58));
     EXPECT_EQ(at(second), Rectf(51, 2, 98, 58));
 
     StaticLayout& border = layout(100, 60, "BorderLayout", 0);
     border.SetCurrentBorder(StaticLayout::CenterBorder);
-    Window& hiddenCentre = child(border, 5, 5);
-    hiddenCentre.hide();
-    border.DoLayout();
+    Window& hiddenCentre = child(border, 5, 5, true);
     EXPECT_EQ(at(hiddenCentre), Rectf(0, 0, 100, 60));
 
     // A margin larger than the area: the unsigned sums wrap round, giving huge cells.

@@ -27,6 +27,20 @@ public:
     using MXTabButton::MXTabButton;
 };
 
+// A host's tab control that marks the buttons it makes.
+class HostTabControl : public MXTabControl
+{
+public:
+    static constexpr char WidgetTypeName[] = "Host/TabControl";
+    using MXTabControl::MXTabControl;
+    TabButton* createTabButton(const String& name) const override
+    {
+        TabButton* made = MXTabControl::createTabButton(name);
+        made->setTooltipText("host-made");
+        return made;
+    }
+};
+
 struct Expected
 {
     std::string image;
@@ -140,6 +154,20 @@ TEST_F(TabTest, ButtonsAndPaneAreTheTypesNamedByTheWritableStatics)
     WindowManager::getSingleton().cleanDeadPool();
     control = nullptr;
     WindowFactoryManager::getSingleton().removeFactory(HostTabButton::WidgetTypeName);
+}
+
+TEST_F(TabTest, AHostSubclassMakesTheButtonsTheRendererAsksFor)
+{
+    LookFactory<HostTabControl> factory;
+    WindowFactoryManager::getSingleton().addFactory(&factory);
+    control = static_cast<MXTabControl*>(
+        &moxietest::place(HostTabControl::WidgetTypeName, 10, 10, Width, 200));
+    addTab("One");
+    EXPECT_EQ(button("One").getTooltipText(), "host-made");
+    moxietest::freshSheet();
+    WindowManager::getSingleton().cleanDeadPool();
+    control = nullptr;
+    WindowFactoryManager::getSingleton().removeFactory(HostTabControl::WidgetTypeName);
 }
 
 TEST_F(TabTest, ClickingATabSelectsItAndShowsItsContent)

@@ -175,6 +175,11 @@ TEST_F(TaskbarTest, MonitoringFailsInTheStatedOrder)
     // Not followed: hiding the window changes nothing in the bar.
     extra.hide();
     EXPECT_EQ(bar->getEntries().size(), 3u);
+    // Its button's name is taken now: the second button is refused and destroyed.
+    EXPECT_THROW(bar->monitorWindow(&extra, "MoxieLook", "TaskbarWindowNotes"),
+                 AlreadyExistsException);
+    EXPECT_EQ(bar->getChildCount(), children + 1);
+    EXPECT_EQ(bar->getEntries().size(), 3u);
 
     EXPECT_THROW(bar->monitorWindow(nullptr, "MoxieLook", "TaskbarWindowNotes"),
                  InvalidRequestException);

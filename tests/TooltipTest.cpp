@@ -145,7 +145,30 @@ TEST_F(TooltipTest, ForcedShowingAndHidingFollowTheFadeStates)
     EXPECT_FALSE(tip->isVisible());
     EXPECT_EQ(tip->getAlpha(), 1.0f);
 
-    EXPECT_THROW(tip->forceActivation(nullptr), InvalidRequestException);
+    // No window: it fades in with nothing to show.
+    tip->forceActivation(nullptr);
+    EXPECT_EQ(tip->getState(), TooltipEx::FadingIn);
+    EXPECT_EQ(tip->getTargetWindow(), nullptr);
+    drawnBy(*tip);
+    tip->forceDeactivaction();
+    EXPECT_EQ(tip->getState(), TooltipEx::FadingOut);
+
+    // Activated while fading out, it fades in again for the new window; a window with no
+    // tip of its own shows its parent's.
+    Window& inner = moxietest::place("MoxieLook/Button", 5, 5, 40, 20);
+    other.addChild(&inner);
+    inner.setInheritsTooltipText(true);
+    tip->forceActivation(&inner);
+    EXPECT_EQ(tip->getState(), TooltipEx::FadingIn);
+    EXPECT_EQ(tip->getTargetWindow(), &inner);
+    EXPECT_EQ(tip->getText(), "Second");
+    context().injectTimePulse(0.05f);
+    EXPECT_EQ(tip->getState(), TooltipEx::FadingIn); // it has a text to show
+    const auto drawn = drawnBy(*tip);
+    EXPECT_TRUE(std::any_of(drawn.begin(), drawn.end(),
+                            [](const moxietest::DrawnQuad& q) { return q.image == "text"; }));
+    tip->forceDeactivaction();
+    context().injectTimePulse(0.5f);
     EXPECT_EQ(tip->getState(), TooltipEx::Inactive);
 
     // Shown by hovering, it fades out by itself when its display time is up.

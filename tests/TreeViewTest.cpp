@@ -243,6 +243,20 @@ TEST_F(TreeViewTest, HoverFollowsThePointerAndSetsTheTooltip)
     EXPECT_EQ(focused, (std::vector<Node*>{leaf, nullptr}));
     moxietest::pointerTo(251, 150); // still nothing: no event
     EXPECT_EQ(focused.size(), 2u);
+
+    // The hovered node removed, the tree redrawn: the next move must not touch it.
+    Node* other = root->GetChild("A")->GetChild(0);
+    moxietest::pointerTo(at.d_x, at.d_y);
+    ASSERT_TRUE(leaf->IsHovered());
+    EXPECT_TRUE(tree->RemoveNode(root->GetChild("B")));
+    drawnBy(*tree);
+    const Vector2f onOther = inside(other);
+    moxietest::pointerTo(onOther.d_x, onOther.d_y);
+    EXPECT_TRUE(other->IsHovered());
+    root->GetChild("A")->RemoveAll();
+    drawnBy(*tree);
+    moxietest::pointerTo(250, 150);
+    EXPECT_EQ(tree->getTooltipText(), "");
 }
 
 TEST_F(TreeViewTest, ScrolledOutOfViewAndBackALineIsHitWhereItIsDrawn)

@@ -25,6 +25,8 @@ void MultiColumnListEx::initialiseComponents()
 {
     MultiColumnList::initialiseComponents();
     setUserSortControlEnabled(false);
+    // Saved rows keep their items in column order: a column moved by the user would mix them up.
+    setUserColumnDraggingEnabled(false);
 }
 
 MultiColumnListEx::SavedRow& MultiColumnListEx::saved(uint rowId) const

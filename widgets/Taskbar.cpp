@@ -50,6 +50,7 @@ void Taskbar::monitorWindow(FrameWindowEx* window, const String& imagesetName,
             throw InvalidRequestException("The window type '" + String(ButtonType) +
                                           "' cannot serve as a task-bar button.");
         requireImageset(imagesetName);
+        addChild(button); // throws when the bar already holds a button of that name
     }
     catch (...)
     {
@@ -57,7 +58,6 @@ void Taskbar::monitorWindow(FrameWindowEx* window, const String& imagesetName,
         throw;
     }
 
-    addChild(button);
     button->setText(imageName);
     button->setCustomBitmap(imagesetName, imageName);
 

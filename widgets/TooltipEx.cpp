@@ -48,8 +48,6 @@ TooltipEx::State TooltipEx::getState() const
 
 void TooltipEx::forceActivation(Window* target)
 {
-    if (!target)
-        throw InvalidRequestException("A tooltip cannot be shown for no window.");
     const State state = getState();
     if (state == Active || state == FadingIn)
         return;
@@ -107,7 +105,7 @@ void TooltipEx::onTooltipInactive(WindowEventArgs& e)
 void TooltipEx::updateSelf(float elapsed)
 {
     const bool timesOut = d_active && !d_fadingIn && !d_fadingOut && d_displayTime > 0 &&
-                          d_target && !d_target->getTooltipText().empty() &&
+                          d_target && !d_target->getTooltipTextIncludingInheritance().empty() &&
                           d_elapsed + elapsed >= d_displayTime;
     if (timesOut)
     {
@@ -123,7 +121,7 @@ void TooltipEx::updateSelf(float elapsed)
     }
 
     Window::updateSelf(elapsed);
-    if (!d_target || d_target->getTooltipText().empty())
+    if (!d_target || d_target->getTooltipTextIncludingInheritance().empty())
     {
         hide();
         switchToInactiveState();

@@ -44,12 +44,12 @@ public:
     void setFadeTime(float seconds);
 
     //! One line of text, or more while that keeps the box narrowing towards 5 : 1.
-    Sizef getTextSize() const;
+    virtual Sizef getTextSize() const;
 
 protected:
     //! The size the text takes in `lines` lines of balanced width: the widest line, and
     //! `lines` line spacings high.
-    Sizef getTextSize(unsigned lines) const;
+    virtual Sizef getTextSize(unsigned lines) const;
     //! How many lines the text wraps to in `width` pixels, and the widest of them.
     std::pair<unsigned, float> wrapped(float width) const;
 

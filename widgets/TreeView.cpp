@@ -425,6 +425,9 @@ void TreeView::nodesChanged(bool relayout)
     {
         d_layoutValid = false;
         d_indexValid = false;
+        // The flagged node may be gone: the next hover walks the tree and sets every flag.
+        d_flaggedNode = nullptr;
+        d_hoverFlagsKnown = false;
     }
     invalidate();
 }

@@ -110,9 +110,17 @@ std::vector<DrawnQuad> decode(const RecordingGeometryBuffer& buffer)
         const CEGUI::Rectf rect = bounds(batch.vertices, false);
         if (batch.texture == atlas)
         {
-            quads.push_back({imageFor(bounds(batch.vertices, true), areas), rect,
-                             cornerColours(batch.vertices, rect)});
-            findMirroring(batch.vertices, quads.back());
+            // A batch of several image quads (a row of stamped images) is six vertices each.
+            const std::size_t step = batch.vertices.size() % 6 == 0 ? 6 : batch.vertices.size();
+            for (std::size_t at = 0; at < batch.vertices.size(); at += step)
+            {
+                const std::vector<CEGUI::Vertex> quad(batch.vertices.begin() + at,
+                                                      batch.vertices.begin() + at + step);
+                const CEGUI::Rectf quadRect = bounds(quad, false);
+                quads.push_back(
+                    {imageFor(bounds(quad, true), areas), quadRect, cornerColours(quad, quadRect)});
+                findMirroring(quad, quads.back());
+            }
             inText = false;
         }
         else if (inText)
