@@ -65,11 +65,12 @@ void MXMeasurement::drawInterval(const Rectf& v, const Rectf& p, bool stacked, i
     if ((d >= 0 && y0 >= y1) || (d < 0 && y0 < y1))
         std::swap(cap.d_min.d_x, cap.d_max.d_x);
 
-    const ColourRect colours(withAlpha(getColour(), owner.getEffectiveAlpha()));
+    // The host's colour keeps its own alpha, faded with the window.
+    const ColourRect colours = faded(ColourRect(getColour()), owner.getEffectiveAlpha());
     const Rectf clip = owner.getGraphRect();
     GeometryBuffer& buffer = owner.getGeometryBuffer();
-    renderMirrored(buffer, lookImage(BaseImageName), base, &clip, colours);
-    renderMirrored(buffer, lookImage(CornerImageName), cap, &clip, colours);
+    renderMirrored(buffer, *d_base, base, &clip, colours);
+    renderMirrored(buffer, *d_corner, cap, &clip, colours);
 }
 
 Window* MXMeasurement::createLegendItem()

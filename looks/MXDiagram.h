@@ -6,6 +6,7 @@
 // pixels thick.
 #pragma once
 
+#include "draw/Imagery.h"
 #include "looks/LookFactory.h"
 #include "widgets/Diagram.h"
 
@@ -26,6 +27,9 @@ public:
 
 private:
     void drawInterval(const Rectf& valueArea, const Rectf& pixelArea, bool superImposed, int depth);
+
+    const Image* d_base = &lookImage(BaseImageName);
+    const Image* d_corner = &lookImage(CornerImageName);
 };
 
 class MXDiagram : public Diagram

@@ -175,6 +175,15 @@ TEST_F(DiagramTest, ColumnsSplitAtZeroMirrorBelowItAndSitInTheGraph)
     EXPECT_FALSE(caps[1].mirroredX);
     EXPECT_TRUE(caps[1].mirroredY);
     EXPECT_EQ(moxietest::argb(caps[0].colours.d_top_left), 0xFF3366CCu);
+    // A see-through colour stays see-through, faded again with the window.
+    diagram->addMeasurement("glass", "Glass", Colour(0x803366CC));
+    diagram->setValue("glass", 0, 1);
+    diagram->setValue("glass", 1, 1);
+    diagram->setAlpha(0.5f);
+    const auto glass = quadsOf("DiagramBase");
+    ASSERT_FALSE(glass.empty());
+    EXPECT_EQ(moxietest::argb(glass.back().colours.d_top_left), 0x403366CCu);
+    diagram->setAlpha(1.0f);
     // The flat interval below zero: a mirrored base, and a cap of no height (none drawn).
     ASSERT_EQ(bases.size(), 1u);
     EXPECT_EQ(bases[0].rect, Rectf(graph.left() + unit, zero, graph.right(), graph.bottom()));
@@ -184,7 +193,7 @@ TEST_F(DiagramTest, ColumnsSplitAtZeroMirrorBelowItAndSitInTheGraph)
     diagram->setUnitPixelSize(Sizef(400, -1));
     diagram->getHorzScrollbar()->setScrollPosition(420);
     drawnBy(*diagram);
-    EXPECT_EQ(diagram->getDrawnIntervalCount(), 1u);
+    EXPECT_EQ(diagram->getDrawnIntervalCount(), 2u); // the second of each measurement
 }
 
 TEST_F(DiagramTest, LabelsAndGridLines)

@@ -194,6 +194,23 @@ TEST_F(NodeItemTest, ResizeTakesItsStepsOnePerFrame)
     EXPECT_EQ(widths, (std::vector<float>{110, 120, 130, 140, 140}));
     EXPECT_EQ(child.GetButton()->getPixelSize().d_width, 140);
 
+    // Steps smaller than a pixel: CEGUI rounds them away and the rest carries on.
+    Node& small = node("small");
+    root->AddNode(&small);
+    small.SetAbsoluteSize(Sizef(100, 20), false);
+    small.SetAbsoluteSize(Sizef(103, 20), true);
+    small.SetResizeStepNumber(4);
+    frame();
+    small.SetSelected(true);
+    widths.clear();
+    for (int i = 0; i < 5; ++i)
+    {
+        frame();
+        widths.push_back(small.getPixelSize().d_width);
+    }
+    // 100.75 -> 101; 101 + 0.67 - 0.25 -> 101; then 102 and 103.
+    EXPECT_EQ(widths, (std::vector<float>{101, 101, 102, 103, 103}));
+
     child.SetResizeStepNumber(1);
     child.SetSelected(false);
     frame();

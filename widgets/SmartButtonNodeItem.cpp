@@ -311,9 +311,13 @@ void SmartButtonNodeItem::stepResize()
         return;
     setSize(absolute(requested));
     const Sizef applied = getPixelSize();
-    if (applied == current)
+    // CEGUI rounds sizes to whole pixels: a request within half a pixel may come back
+    // unchanged and its fraction carries on. A whole pixel refused is the host's limit:
+    // stop rather than ask every frame.
+    const bool rounded = std::abs(requested.d_width - current.d_width) < 0.5f &&
+                         std::abs(requested.d_height - current.d_height) < 0.5f;
+    if (applied == current && !rounded)
     {
-        // The host keeps this size (limits): stop rather than ask every frame.
         d_residualWidth = d_residualHeight = 0;
         d_resizeStepsDone = 0;
         return;
