@@ -45,15 +45,18 @@ void ImageStamp::stamp(GeometryBuffer& buffer, const Vector2f& first, float spac
     d_image->render(quad, Rectf(at, d_image->getRenderedSize()), nullptr, colours);
     if (quad.vertices.empty())
         return;
-    d_row.clear();
-    d_row.reserve(quad.vertices.size() * static_cast<std::size_t>(to - from));
+    // The row is kept between draws and written over: CEGUI's colour copy constructor is
+    // out of line, its assignment is not.
+    d_row.resize(quad.vertices.size() * static_cast<std::size_t>(to - from));
+    auto out = d_row.begin();
     for (int i = from; i < to; ++i)
     {
         const float shift = static_cast<float>(i - from) * spacing;
-        for (Vertex vertex : quad.vertices)
+        for (const Vertex& vertex : quad.vertices)
         {
-            vertex.position.d_x += shift;
-            d_row.push_back(vertex);
+            *out = vertex;
+            out->position.d_x += shift;
+            ++out;
         }
     }
     buffer.setActiveTexture(quad.texture);

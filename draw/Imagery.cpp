@@ -3,6 +3,9 @@
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/Window.h>
 #include <cmath>
+#include <map>
+#include <string>
+#include <string_view>
 
 namespace CEGUI
 {
@@ -11,6 +14,18 @@ namespace MoxieLook
 const Image& lookImage(const String& name)
 {
     return ImageManager::getSingleton().get(String(ImagesetName) + '/' + name);
+}
+
+const Image& lookImage(const char* name)
+{
+    // Looks fetch dozens of images each time one is made; CEGUI's strings are slow to
+    // build, so each full name is built once. Images themselves are asked for every time:
+    // a host may reload the imageset.
+    static std::map<std::string, String, std::less<>> fullNames;
+    auto known = fullNames.find(std::string_view(name));
+    if (known == fullNames.end())
+        known = fullNames.emplace(name, String(ImagesetName) + '/' + name).first;
+    return ImageManager::getSingleton().get(known->second);
 }
 
 Colour withAlpha(Colour colour, float alpha)

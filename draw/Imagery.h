@@ -20,6 +20,8 @@ inline constexpr char ImagesetName[] = "MoxieLook";
 //! An image of the "MoxieLook" imageset, by its name inside the set.
 //! Throws CEGUI's UnknownObjectException when the imageset lacks it.
 const Image& lookImage(const String& name);
+//! The same for a name known as text: the full name is built once per name.
+const Image& lookImage(const char* name);
 
 //! The module's colour constants carry no alpha: every use takes the window's.
 Colour withAlpha(Colour colour, float alpha);

@@ -6,6 +6,7 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/PropertyHelper.h>
 #include <algorithm>
+#include <vector>
 
 namespace CEGUI
 {
@@ -144,19 +145,28 @@ void TooltipEx::updateSelf(float elapsed)
         setAlpha(1.0f - progress);
 }
 
-float TooltipEx::widestWordWidth(const Font& font) const
+const TooltipEx::Words& TooltipEx::words(const Font& font) const
 {
     const String& text = getText();
-    float widest = 0.0f;
+    if (d_words.font == &font && d_words.text == text)
+        return d_words;
+    d_words.text = text;
+    d_words.font = &font;
+    d_words.widths.clear();
+    d_words.widest = 0.0f;
     String::size_type start = 0;
     while (start < text.length())
     {
         const String::size_type end = std::min(text.find_first_of(" \t\n", start), text.length());
         if (end > start)
-            widest = std::max(widest, font.getTextExtent(text.substr(start, end - start)));
+        {
+            d_words.widths.push_back(font.getTextExtent(text.substr(start, end - start)));
+            d_words.widest = std::max(d_words.widest, d_words.widths.back());
+        }
         start = end + 1;
     }
-    return widest;
+    d_words.space = font.getTextExtent(" ");
+    return d_words;
 }
 
 std::pair<unsigned, float> TooltipEx::wrapped(float width) const
@@ -166,6 +176,29 @@ std::pair<unsigned, float> TooltipEx::wrapped(float width) const
     return {static_cast<unsigned>(lines.count), lines.widest};
 }
 
+namespace
+{
+// How many lines words of these widths take at `width`, wrapped greedily as CEGUI does.
+unsigned greedyLines(const std::vector<float>& words, float space, float width)
+{
+    unsigned lines = 1;
+    float line = -1.0f; // no word on the line yet
+    for (float word : words)
+    {
+        if (line < 0)
+            line = word;
+        else if (line + space + word <= width)
+            line += space + word;
+        else
+        {
+            ++lines;
+            line = word;
+        }
+    }
+    return lines;
+}
+} // namespace
+
 Sizef TooltipEx::getTextSize(unsigned lines) const
 {
     const Font* font = getFont();
@@ -173,11 +206,33 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
         return Sizef(0, 0);
     // The narrowest width at which the words still fit in `lines` lines. Below the widest
     // word CEGUI would break words apart, so the search stops there.
+    const Words& measured = words(*font);
+    const float widestWord = measured.widest;
     float fits = getTextSize_impl().d_width;
-    const float widestWord = widestWordWidth(*font);
-    if (wrapped(widestWord).first <= lines)
-        fits = widestWord;
     float tooNarrow = widestWord;
+
+    // Searched first on the words' widths; CEGUI's wrapping has the last word, and where
+    // it disagrees the search goes on with it.
+    if (getText().find('\n') == String::npos)
+    {
+        float modelFits = fits;
+        float modelTooNarrow = widestWord;
+        if (greedyLines(measured.widths, measured.space, widestWord) <= lines)
+            modelFits = widestWord;
+        while (modelFits - modelTooNarrow > BalancePrecision)
+        {
+            const float width = (modelFits + modelTooNarrow) * 0.5f;
+            (greedyLines(measured.widths, measured.space, width) <= lines ? modelFits
+                                                                          : modelTooNarrow) = width;
+        }
+        const std::pair<unsigned, float> atModel = wrapped(modelFits);
+        if (atModel.first <= lines)
+            return Sizef(atModel.second, lines * font->getLineSpacing());
+        tooNarrow = modelFits;
+    }
+
+    if (fits - tooNarrow > BalancePrecision && wrapped(widestWord).first <= lines)
+        fits = widestWord;
     while (fits - tooNarrow > BalancePrecision)
     {
         const float width = (fits + tooNarrow) * 0.5f;

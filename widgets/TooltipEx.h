@@ -7,6 +7,7 @@
 #include <CEGUI/Property.h>
 #include <CEGUI/widgets/Tooltip.h>
 #include <utility>
+#include <vector>
 
 namespace CEGUI
 {
@@ -60,8 +61,20 @@ protected:
     void onTooltipInactive(WindowEventArgs& e) override;
 
 private:
+    //! The text's words as widths in a font, measured once per text and font.
+    struct Words
+    {
+        String text;
+        const Font* font = nullptr;
+        std::vector<float> widths; //!< split at blanks and line breaks
+        float widest = 0.0f;
+        float space = 0.0f;
+    };
+
     void addTooltipExProperties();
-    float widestWordWidth(const Font& font) const;
+    const Words& words(const Font& font) const;
+
+    mutable Words d_words;
 
     Colour d_textColour{0.0f, 0.0f, 0.0f, 0.0f};
     bool d_fadingIn = false;
