@@ -69,6 +69,8 @@ std::vector<Sample> treeSamples()
              }
              music.AddNode(&smartNode("Jazz", "IconDocument"));
              books.SetSelected(true);
+             // Opening "Music" closes "Books": both resize in their six steps.
+             card.animation([&music] { music.SetSelected(true); }, {1, 3, 6, 7});
          }},
         {"MoxieLook/TreeView", 190,
          [](Card& card)
