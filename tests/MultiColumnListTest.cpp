@@ -224,4 +224,16 @@ TEST_F(MultiColumnListTest, TreeColumnsFollowTheirSegments)
     tree.getListHeader()->setColumnWidth(1, cegui_absdim(130));
     const float after = kindRight();
     EXPECT_NEAR(after - before, 50, 0.5f);
+
+    // A row answers clicks across its columns: a click in the "Kind" cell selects it.
+    std::vector<TreeView::Node*> clicked;
+    tree.subscribeEvent(TreeView::EventLeafItemClicked,
+                        [&](const EventArgs& a) {
+                            clicked.push_back(static_cast<const TreeView::ItemEventArgs&>(a).node);
+                        });
+    const Rectf line = file->GetHitRect();
+    moxietest::pointerTo(line.left() + 150 + 130 + 40, line.top() + 4);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_EQ(clicked, (std::vector<TreeView::Node*>{file}));
 }

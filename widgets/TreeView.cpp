@@ -611,7 +611,7 @@ void TreeView::layOut()
                 const float textRight =
                     x + navWidth + iconWidth + node.textWidth(*font, d_metricsEpoch);
                 node.d_iconWidth = static_cast<unsigned>(navWidth);
-                node.d_hitRect = Rectf(x, bottom + 3.0f, textRight, bottom + h);
+                node.d_hitRect = Rectf(x, bottom + 3.0f, lineHitRight(textRight), bottom + h);
                 node.d_textRight = textRight;
                 node.d_hitRelative = true;
                 d_lines.push_back({&node, x, bottom, h, navWidth, iconWidth, textRight, order});

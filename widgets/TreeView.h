@@ -247,6 +247,8 @@ protected:
     Rectf linesArea() const;
     //! The content size the pane scrolls over: the laid-out tree and one spare line.
     virtual Sizef contentSize() const;
+    //! Where a line whose text ends at `textRight` stops answering the mouse.
+    virtual float lineHitRight(float textRight) const { return textRight; }
 
     void onMouseLeaves(MouseEventArgs& e) override;
     void onMouseMove(MouseEventArgs& e) override;

@@ -83,9 +83,14 @@ Sizef TreeViewMultiColumnListEx::contentSize() const
     return size;
 }
 
+float TreeViewMultiColumnListEx::lineHitRight(float textRight) const
+{
+    return d_header ? std::max(textRight, d_header->getTotalSegmentsPixelExtent()) : textRight;
+}
+
 bool TreeViewMultiColumnListEx::columnsChanged(const EventArgs&)
 {
-    nodesChanged(false);
+    nodesChanged(true); // rows reach as far as the columns
     return true;
 }
 

@@ -51,6 +51,8 @@ protected:
     virtual ListHeader* CreateListHeader(const String& name) const = 0;
     //! As wide as the columns when they reach further than the tree.
     Sizef contentSize() const override;
+    //! A row answers the mouse across all its columns, as list rows do.
+    float lineHitRight(float textRight) const override;
 
 private:
     bool columnsChanged(const EventArgs& e);
