@@ -72,6 +72,7 @@ TEST_F(SelectableButtonsTest, RadioButtonsSelectExclusivelyWithinTheirGroupAndTy
     EXPECT_EQ(sounds(), std::vector<std::string>{"clank"});
     apart.setSelected(true);
     foreign.setSelected(true);
+    EXPECT_TRUE(a.isSelected()); // the other type left it alone
     click(20, 50);
     EXPECT_TRUE(b.isSelected());
     EXPECT_FALSE(a.isSelected());
@@ -79,9 +80,12 @@ TEST_F(SelectableButtonsTest, RadioButtonsSelectExclusivelyWithinTheirGroupAndTy
     EXPECT_TRUE(apart.isSelected());   // another group
     EXPECT_TRUE(foreign.isSelected()); // another window type, same group id
 
-    // Manual unselection off: a click on the selected button changes nothing.
+    // Manual unselection off: a click on the selected button changes nothing, fires nothing.
+    int bChanges = 0;
+    b.subscribeEvent(RadioButtonEx::EventSelectStateChanged, [&] { ++bChanges; });
     click(20, 50);
     EXPECT_TRUE(b.isSelected());
+    EXPECT_EQ(bChanges, 0);
     b.setProperty("ManualUnselection", "True");
     EXPECT_TRUE(b.isManualUnselectionEnabled());
     click(20, 50);

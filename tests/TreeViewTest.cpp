@@ -191,6 +191,10 @@ TEST_F(TreeViewTest, ClicksSelectToggleAndFireInOrderButNotInTheTopThreePixels)
     click(inside(leaf));
     EXPECT_EQ(events, std::vector<std::string>{"leaf"});
     EXPECT_EQ(tree->GetSelectedNode(), leaf);
+    events.clear();
+    click(inside(a->GetChild(2), 5)); // a leaf's navigation image only selects it
+    EXPECT_EQ(events, std::vector<std::string>{"leaf"});
+    EXPECT_EQ(tree->GetSelectedNode(), a->GetChild(2));
 
     events.clear();
     click(inside(a)); // on the text: selects, no toggle

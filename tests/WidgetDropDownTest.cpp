@@ -127,6 +127,7 @@ TEST_F(WidgetDropDownTest, OpenChooseAndCloseByClicksWithTooltips)
     box->SetVisibilityLimits(5, 5);
     System::getSingleton().renderAllGUIContexts();
     const Rectf outer = list->getUnclippedOuterRect().get();
+    box->setTooltipText("stale");
     click(outer.left() + 20, outer.bottom() - 6);
     EXPECT_TRUE(list->isVisible());
     EXPECT_EQ(box->getTooltipText(), "");
