@@ -122,6 +122,24 @@ TEST_F(FrameWindowTest, MinimisingDrawsFortyShrinkingFramesThenNothing)
             EXPECT_NEAR(frameCorner(quads).top(), corner(step).d_y, 0.5f) << "step " << step;
         }
         EXPECT_EQ(quads.size(), 8u) << "only the frame, step " << step;
+        if (step == 20)
+        {
+            // Half way: every edge midway between the window's and the task bar's.
+            Rectf extent = quads.front().rect;
+            for (const DrawnQuad& quad : quads)
+                extent = Rectf(std::min(extent.left(), quad.rect.left()),
+                               std::min(extent.top(), quad.rect.top()),
+                               std::max(extent.right(), quad.rect.right()),
+                               std::max(extent.bottom(), quad.rect.bottom()));
+            const Rectf half((own.left() + bar.left()) / 2, (own.top() + bar.top()) / 2,
+                             (own.right() + bar.right()) / 2, (own.bottom() + bar.bottom()) / 2);
+            EXPECT_NEAR(extent.left() + own.left(), half.left(), 0.5f);
+            EXPECT_NEAR(extent.top() + own.top(), half.top(), 0.5f);
+            EXPECT_NEAR(extent.right() + own.left(), half.right(), 0.5f);
+            EXPECT_NEAR(extent.bottom() + own.top(), half.bottom(), 0.5f);
+            // Drawn outside its own rectangle: the window's clipping lets the whole path through.
+            EXPECT_TRUE(frame->getOuterRectClipper().isPointInRect(bar.getPosition()));
+        }
     }
     // The first frame is the window itself; the last is 1/40 short of the task bar.
     EXPECT_EQ(corner(40), Vector2f(0, 0));
