@@ -96,6 +96,8 @@ Rectf MXSmartButtonNodeItem::openedImageRect() const
 void MXSmartButtonNodeItem::populateGeometryBuffer()
 {
     SmartButtonNodeItem::populateGeometryBuffer();
+    if (!hasVisibleArea(*this))
+        return;
     const Rectf at = openedImageRect();
     if (at.getWidth() > 0)
         GetOpenedImage()->render(getGeometryBuffer(), at, nullptr,

@@ -96,8 +96,18 @@ TEST_F(ClockAndAnimationTest, FramesAdvanceOnePerPeriodAndAtMostOnePerPulse)
     pulse(0.25f);
     EXPECT_EQ(three.getImage(), frame(0));
     EXPECT_EQ(three.getProperty("Frame"), "");
-    EXPECT_THROW(three.setProperty("Frame", "MoxieLook/NoSuchFrame"), UnknownObjectException);
-    EXPECT_EQ(three.getFrameCount(), 4u);
+    // An unknown image is a blank frame in the flow.
+    three.setProperty("Frame", "MoxieLook/NoSuchFrame");
+    EXPECT_EQ(three.getFrameCount(), 5u);
+    for (int i = 0; i < 4; ++i)
+        pulse(0.25f);
+    EXPECT_EQ(three.getImage(), nullptr);
+
+    // Hidden, it keeps counting time.
+    three.hide();
+    pulse(0.25f);
+    three.show();
+    EXPECT_EQ(three.getImage(), frame(0));
 }
 
 TEST_F(ClockAndAnimationTest, FrequencyZeroStopsAndANegativeOneStepsEveryPulse)

@@ -18,6 +18,8 @@ AnimatedStaticImageProperties::FrameFrequencyProperty s_frameFrequencyProperty;
 AnimatedStaticImage::AnimatedStaticImage(const String& type, const String& name)
     : StaticImage(type, name)
 {
+    // Time goes on while hidden: shown again, it catches up one frame per pulse.
+    setUpdateMode(WUM_ALWAYS);
 }
 
 void AnimatedStaticImage::initialiseComponents()
@@ -84,7 +86,9 @@ String FrameProperty::get(const PropertyReceiver*) const
 void FrameProperty::set(PropertyReceiver* receiver, const String& value)
 {
     // An unknown name throws CEGUI's UnknownObjectException; nothing is appended.
-    static_cast<AnimatedStaticImage*>(receiver)->addFrame(&ImageManager::getSingleton().get(value));
+    // An unknown name is a blank frame, as CEGUI reads image texts.
+    static_cast<AnimatedStaticImage*>(receiver)->addFrame(
+        PropertyHelper<Image*>::fromString(value));
 }
 
 FrameFrequencyProperty::FrameFrequencyProperty()
