@@ -29,22 +29,19 @@ void Measurement::initialise()
 
 float Measurement::getValue(float x) const
 {
-    const auto exact = d_values.find(x);
-    if (exact != d_values.end())
-        return exact->second;
-    // prev: the last key below x, when some key lies above it; next: the first key above.
-    const auto above = d_values.upper_bound(x);
-    const float prev =
-        (above != d_values.end() && above != d_values.begin()) ? std::prev(above)->first : 0.0f;
-    const float next = above != d_values.end() ? above->first : 0.0f;
-    if (next <= prev)
+    // One search: the first key not below x is x itself (as the map compares), or the next
+    // key above it.
+    const auto next = d_values.lower_bound(x);
+    if (next != d_values.end() && !(x < next->first))
+        return next->second;
+    // Outside the keys the previous or next key falls back to 0, which never lies strictly
+    // between them: the value is 0.
+    if (next == d_values.end() || next == d_values.begin())
         return 0.0f;
-    const auto atPrev = d_values.find(prev);
-    const auto atNext = d_values.find(next);
-    if (atPrev == d_values.end() || atNext == d_values.end())
-        return 0.0f;
+    const auto prev = std::prev(next);
     const float r =
-        (atNext->second - atPrev->second) * ((x - prev) / (next - prev)) + atPrev->second;
+        (next->second - prev->second) * ((x - prev->first) / (next->first - prev->first)) +
+        prev->second;
     return static_cast<float>(std::ceil(r * 100.0) * 0.01);
 }
 
