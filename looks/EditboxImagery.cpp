@@ -4,6 +4,7 @@
 
 #include <CEGUI/Image.h>
 #include <CEGUI/Window.h>
+#include <algorithm>
 
 namespace CEGUI
 {
@@ -67,14 +68,17 @@ const Colour& EditboxImagery::textColour(bool readOnly, bool disabled) const
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
                          float extentToCaret)
 {
-    if (lastOffset + extentToCaret < 0)
-        return -extentToCaret;
-    if (lastOffset + extentToCaret >= areaWidth - caretWidth)
-        return areaWidth - extentToCaret - caretWidth;
     // A text that fits starts at the left: nothing is scrolled away then.
     if (textExtent + caretWidth <= areaWidth)
         return 0.0f;
-    return lastOffset;
+    float offset = lastOffset;
+    if (offset + extentToCaret < 0)
+        offset = -extentToCaret;
+    else if (offset + extentToCaret + caretWidth > areaWidth)
+        offset = areaWidth - extentToCaret - caretWidth;
+    // Once the text's end is in view, no blank room opens after it (a text made shorter).
+    offset = std::max(offset, areaWidth - textExtent - caretWidth);
+    return std::min(offset, 0.0f);
 }
 
 } // namespace MoxieLook

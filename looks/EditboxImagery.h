@@ -55,9 +55,9 @@ private:
     const Image* d_inactive;
 };
 
-//! Where the text of a one-line box starts, from the text area's left: the caret is kept in
-//! view (at the area's end when it would leave it), and a text shorter than the area is
-//! aligned; otherwise the last offset stays, so the text does not jump while typing.
+//! Where the text of a one-line box starts, from the text area's left: a text that fits
+//! starts at the left; a longer one keeps the caret in view, leaves no blank room after its
+//! end, and otherwise keeps the last offset, so that it does not jump while typing.
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
                          float extentToCaret);
 

@@ -7,6 +7,7 @@
 
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/ImageManager.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <gtest/gtest.h>
@@ -113,6 +114,36 @@ TEST_F(EditboxTest, LongTextsScrollToKeepTheCaretInView)
     key(Key::Home);
     drawnBy(*box);
     EXPECT_EQ(box->textOffset(), 0);
+
+    // Deleting before the end keeps the end at the right: no blank room opens after it.
+    key(Key::End);
+    drawnBy(*box);
+    for (int i = 0; i < 10; ++i)
+        key(Key::ArrowLeft);
+    drawnBy(*box);
+    for (int i = 0; i < 10; ++i)
+        key(Key::Delete);
+    drawnBy(*box);
+    const float caretWidth =
+        ImageManager::getSingleton().get("MoxieLook/EditboxCarat").getRenderedSize().d_width;
+    EXPECT_NEAR(boundaryX(70), left + area.right() - caretWidth, 0.5f);
+
+    // A scrolled text replaced by a short one is drawn from the left, in view.
+    const auto shortTextAt = [&]
+    {
+        const auto quads = drawnBy(*box);
+        const auto text =
+            std::find_if(quads.begin(), quads.end(),
+                         [](const moxietest::DrawnQuad& q) { return q.image == "text"; });
+        return text == quads.end() ? -1e9f : text->rect.left();
+    };
+    box->setText("Hi");
+    EXPECT_NEAR(shortTextAt(), area.left(), 2);
+    type(std::string(80, 'm'));
+    box->setSelection(0, 82);
+    type("x");
+    EXPECT_EQ(box->getText(), "x");
+    EXPECT_NEAR(shortTextAt(), area.left(), 2);
 }
 
 TEST_F(EditboxTest, MaskReadOnlyPlaceholderAndSelectAllOnFocus)
