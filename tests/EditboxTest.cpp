@@ -189,6 +189,25 @@ TEST_F(EditboxTest, ValidationRejectsWrongInputAndAcceptsPartial)
     EXPECT_EQ(box->getText(), "12-");
     type("34");
     EXPECT_EQ(box->getText(), "12-34");
+    EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_VALID);
+    // The box can be emptied to start again.
+    for (int i = 0; i < 5; ++i)
+        key(Key::Backspace);
+    EXPECT_EQ(box->getText(), "");
+    type("9");
+    EXPECT_EQ(box->getText(), "9");
+
+    // Every branch is tried against the whole text.
+    box->setText("");
+    box->setProperty("ValidationString", "\\d+|\\d+\\.\\d+");
+    type("1.5");
+    EXPECT_EQ(box->getText(), "1.5");
+    EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_VALID);
+    key(Key::Backspace);
+    EXPECT_EQ(box->getText(), "1.");
+    EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_PARTIAL);
+    type("x");
+    EXPECT_EQ(box->getText(), "1.");
     EXPECT_THROW(box->setProperty("ValidationString", "([0-9"), InvalidRequestException);
     // A host's handler decides over the default.
     box->setProperty("ValidationString", "[a-z]*");

@@ -21,8 +21,9 @@ public:
     //! CEGUI's InvalidRequestException for an expression PCRE2 cannot compile.
     void setRegexString(const String& regex) override;
     const String& getRegexString() const override { return d_regex; }
-    //! The whole text matches (valid), could still grow into a match (partial), or
-    //! neither (invalid). An empty expression accepts everything.
+    //! The whole text matches (valid), could still grow into a match or is empty
+    //! (partial), or neither (invalid). With no expression set, every text is valid; an
+    //! empty expression, like any other, has to match the whole text.
     MatchState getMatchStateOfString(const String& str) const override;
 
 private:
