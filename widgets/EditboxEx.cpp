@@ -73,7 +73,11 @@ void EditboxEx::onMouseButtonDown(MouseEventArgs& e)
     const bool hadFocus = hasInputFocus();
     RedrawnWhenUncovered<Editbox>::onMouseButtonDown(e);
     if (!hadFocus && d_selectAllOnFocus && e.button == LeftButton)
+    {
         setSelection(0, getText().length());
+        // CEGUI would turn the least move before the release into a drag selection.
+        d_dragging = false;
+    }
 }
 
 void EditboxEx::onTextValidityChanged(RegexMatchStateEventArgs& e)
