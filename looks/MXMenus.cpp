@@ -3,6 +3,7 @@
 #include "draw/Imagery.h"
 
 #include <CEGUI/Font.h>
+#include <CEGUI/GlobalEventSet.h>
 #include <CEGUI/Image.h>
 #include <CEGUI/widgets/ItemListBase.h>
 #include <algorithm>
@@ -38,6 +39,37 @@ void drawBand(const Window& window, MenuItemState state, const Rectf& area)
     band.draw(const_cast<Window&>(window).getGeometryBuffer(), area, white(window));
 }
 
+// Activation alone misses a click on the bare root sheet: CEGUI 0.8 moves an already active
+// root to the front without a change of activation, so the menu would stay open. Every
+// press on any window is watched instead.
+Event::Connection onPressOutside(Window& menu, void (*close)(Window&))
+{
+    return GlobalEventSet::getSingleton().subscribeEvent(
+        Window::EventNamespace + "/" + Window::EventMouseButtonDown,
+        Event::Subscriber(
+            [&menu, close](const EventArgs& args)
+            {
+                const Window* pressed = static_cast<const MouseEventArgs&>(args).window;
+                if (pressed && pressed != &menu && !pressed->isAncestor(&menu))
+                    close(menu);
+                return false;
+            }));
+}
+
+void closeBarMenus(Window& window)
+{
+    auto& bar = static_cast<Menubar&>(window);
+    if (bar.getPopupMenuItem())
+        bar.changePopupMenuItem(nullptr);
+}
+
+void closeOwnPopup(Window& window)
+{
+    auto& popup = static_cast<PopupMenu&>(window);
+    if (!dynamic_cast<MenuItem*>(popup.getParent()) && popup.isPopupMenuOpen())
+        popup.closePopupMenu();
+}
+
 // A changed font changes the item's size: its list lays out again.
 void itemChangedSize(MenuItem& item)
 {
@@ -64,6 +96,7 @@ MXMenubar::MXMenubar(const String& type, const String& name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
+    d_pressOutside = onPressOutside(*this, closeBarMenus);
 }
 
 Rectf MXMenubar::itemRenderArea() const
@@ -80,11 +113,17 @@ void MXMenubar::drawList()
         .render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr, white(*this));
 }
 
+void MXMenubar::destroy()
+{
+    // A destroyed bar waits in CEGUI's dead pool, its items already gone.
+    d_pressOutside.disconnect();
+    RedrawnWhenUncovered<Menubar>::destroy();
+}
+
 void MXMenubar::onDeactivated(ActivationEventArgs& e)
 {
     RedrawnWhenUncovered<Menubar>::onDeactivated(e);
-    if (getPopupMenuItem())
-        changePopupMenuItem(nullptr);
+    closeBarMenus(*this);
 }
 
 // --- the pop-up -------------------------------------------------------------------------
@@ -103,6 +142,7 @@ MXPopupMenu::MXPopupMenu(const String& type, const String& name)
     // It hangs off its menu item, over everything.
     setClippedByParent(false);
     setAlwaysOnTop(true);
+    d_pressOutside = onPressOutside(*this, closeOwnPopup);
 }
 
 Rectf MXPopupMenu::itemRenderArea() const
@@ -136,11 +176,16 @@ void MXPopupMenu::drawList()
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }
 
+void MXPopupMenu::destroy()
+{
+    d_pressOutside.disconnect();
+    RedrawnWhenUncovered<PopupMenu>::destroy();
+}
+
 void MXPopupMenu::onDeactivated(ActivationEventArgs& e)
 {
     RedrawnWhenUncovered<PopupMenu>::onDeactivated(e);
-    if (!dynamic_cast<MenuItem*>(getParent()) && isPopupMenuOpen())
-        closePopupMenu();
+    closeOwnPopup(*this);
 }
 
 // --- bar items --------------------------------------------------------------------------

@@ -7,7 +7,7 @@
 // ItemEntry selection) and an arrow ("PopupMenuArrow") when it opens a sub-menu; a popup
 // item without text is a separator ("MenuSeparator"). Behaviour is CEGUI's own, with a
 // sub-menu opening after the pointer rests on its item and menus closing on a click
-// elsewhere, which CEGUI leaves to skins and hosts; its item
+// anywhere outside them, which CEGUI leaves to skins and hosts; its item
 // lists and items ask renderers for the item area and item sizes: MXItemListRenderer and
 // MXMenuItemRenderer forward to the looks.
 #pragma once
@@ -76,10 +76,14 @@ public:
     MXMenubar(const String& type, const String& name);
     Rectf itemRenderArea() const override;
     void drawList() override;
+    void destroy() override;
 
 protected:
     //! A click elsewhere closes the open menu.
     void onDeactivated(ActivationEventArgs& e) override;
+
+private:
+    Event::ScopedConnection d_pressOutside;
 };
 
 class MXPopupMenu : public RedrawnWhenUncovered<PopupMenu>, public ItemListLook, public MenuImagery
@@ -91,6 +95,7 @@ public:
     MXPopupMenu(const String& type, const String& name);
     Rectf itemRenderArea() const override;
     void drawList() override;
+    void destroy() override;
 
 protected:
     //! A menu of its own (not a menu item's) closes on a click elsewhere.
@@ -98,6 +103,7 @@ protected:
 
 private:
     NinePieceFrame d_frame;
+    Event::ScopedConnection d_pressOutside;
 };
 
 //! An item's state as the looks show it.

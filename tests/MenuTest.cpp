@@ -139,6 +139,37 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     clickOn(elsewhere);
     pulse();
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
+    // So does one on the bare sheet, which changes no window's activation; one in a sub-menu
+    // chooses its item.
+    clickOn(*file);
+    const Vector2f rc = centre(*recent);
+    moxietest::pointerTo(rc.d_x, rc.d_y);
+    pulse();
+    pulse();
+    ASSERT_TRUE(recentMenu->isPopupMenuOpen());
+    int reopened = 0;
+    recentMenu->getChildAtIdx(0)->subscribeEvent(MenuItem::EventClicked, [&] { ++reopened; });
+    clickOn(*recentMenu->getChildAtIdx(0));
+    EXPECT_EQ(reopened, 1);
+    clickOn(*file);
+    ASSERT_TRUE(fileMenu->isPopupMenuOpen());
+    moxietest::pointerTo(600, 300);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    pulse();
+    EXPECT_FALSE(fileMenu->isPopupMenuOpen());
+
+    // A menu of its own, opened by a host, closes the same way.
+    auto& context =
+        static_cast<PopupMenu&>(moxietest::place("MoxieLook/PopupMenu", 300, 200, 100, 60));
+    item(context, "MoxieLook/PopupMenuItem", "Cut");
+    context.openPopupMenu();
+    ASSERT_TRUE(context.isPopupMenuOpen());
+    moxietest::pointerTo(600, 300);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    pulse();
+    EXPECT_FALSE(context.isPopupMenuOpen());
 }
 
 TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
