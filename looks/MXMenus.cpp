@@ -248,6 +248,11 @@ Sizef MXPopupMenuItem::itemPixelSize() const
                  std::ceil(font->getLineSpacing()) + 2 * VertPadding);
 }
 
+bool MXPopupMenuItem::isHit(const Vector2f& position, const bool allowDisabled) const
+{
+    return !isSeparator() && RedrawnWhenUncovered<MenuItem>::isHit(position, allowDisabled);
+}
+
 void MXPopupMenuItem::drawItem()
 {
     if (!hasVisibleArea(*this))

@@ -150,6 +150,9 @@ public:
     Sizef itemPixelSize() const override;
     void drawItem() override;
     bool isSeparator() const { return getText().empty(); }
+    //! A separator is never hit: the pointer is over its menu there, so it is not hovered,
+    //! held or chosen.
+    bool isHit(const Vector2f& position, const bool allowDisabled = false) const override;
 
 protected:
     void onFontChanged(WindowEventArgs& e) override;

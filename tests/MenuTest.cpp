@@ -196,6 +196,19 @@ TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
     EXPECT_EQ(separator.getPixelSize().d_height, MXPopupMenuItem::SeparatorHeight);
     EXPECT_EQ(moxietest::imageNames(moxietest::drawnBy(separator)),
               std::vector<std::string>{"MenuSeparator"});
+    // A separator is only a line: it is neither hovered nor chosen.
+    int separatorClicks = 0;
+    separator.subscribeEvent(MenuItem::EventClicked, [&] { ++separatorClicks; });
+    ASSERT_TRUE(fileMenu->isPopupMenuOpen());
+    const Vector2f s = centre(separator);
+    moxietest::pointerTo(s.d_x, s.d_y);
+    EXPECT_EQ(menuItemStateOf(separator), MenuItemState::Normal);
+    moxietest::leftDown();
+    EXPECT_EQ(menuItemStateOf(separator), MenuItemState::Normal);
+    moxietest::leftUp();
+    pulse();
+    EXPECT_EQ(separatorClicks, 0);
+    EXPECT_TRUE(fileMenu->isPopupMenuOpen());
     const auto popupQuads = moxietest::imageNames(moxietest::drawnBy(*fileMenu));
     EXPECT_EQ(popupQuads[0], "PopupMenuShadow");
     EXPECT_EQ(popupQuads[1], "PopupMenuFill");
