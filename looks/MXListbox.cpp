@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 
+#include <CEGUI/GUIContext.h>
 #include <CEGUI/widgets/Scrollbar.h>
 
 namespace CEGUI
@@ -30,6 +31,20 @@ void ListLookOf<Base>::initialiseComponents()
                                 d_drawing.sizesChanged();
                                 this->invalidate();
                             });
+    // Scrolling moves the items under a still pointer.
+    this->getVertScrollbar()->subscribeEvent(Scrollbar::EventScrollPositionChanged,
+                                             [this] { hoverUnderPointer(); });
+}
+
+template <typename Base>
+void ListLookOf<Base>::hoverUnderPointer()
+{
+    const GUIContext& context = this->getGUIContext();
+    ListboxItem* item = context.getWindowContainingMouse() == this
+                            ? d_drawing.itemAt(*this, context.getMouseCursor().getPosition())
+                            : nullptr;
+    if (d_drawing.setHovered(item))
+        this->invalidate();
 }
 
 template <typename Base>

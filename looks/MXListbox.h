@@ -58,6 +58,7 @@ protected:
     void onFontChanged(WindowEventArgs& e) override;
     void onMouseMove(MouseEventArgs& e) override;
     void onMouseLeaves(MouseEventArgs& e) override;
+    void hoverUnderPointer();
 
     ListDrawing d_drawing;
 };

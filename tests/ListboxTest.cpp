@@ -112,10 +112,20 @@ TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
     const int inView = static_cast<int>(l.getListRenderArea().getHeight() / h) + 1;
     EXPECT_LE(countTexts(), inView + 1);
 
+    // The hover brush is under the pointer, before and after the wheel moved the items.
+    const auto hoverBrushAt = [&]
+    {
+        for (const moxietest::DrawnQuad& q : moxietest::drawnBy(l))
+            if (q.image == "ListboxHoverBrush")
+                return q.rect;
+        return Rectf(0, 0, 0, 0);
+    };
     moxietest::pointerTo(50, 50);
+    EXPECT_TRUE(hoverBrushAt().isPointInRect(Vector2f(40, 40)));
     context().injectMouseWheelChange(-2);
     const float afterWheel = l.getVertScrollbar()->getScrollPosition();
     EXPECT_GT(afterWheel, 0);
+    EXPECT_TRUE(hoverBrushAt().isPointInRect(Vector2f(40, 40))) << hoverBrushAt();
     l.getVertScrollbar()->setScrollPosition(500 * h);
     EXPECT_LE(countTexts(), inView + 1);
     clickAt(itemCentre(l, 503));
