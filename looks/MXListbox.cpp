@@ -31,6 +31,10 @@ void ListLookOf<Base>::initialiseComponents()
                                 d_drawing.sizesChanged();
                                 this->invalidate();
                             });
+    // CEGUI shows and hides the bars after the layout: each one's length depends on the other.
+    for (Scrollbar* bar : {this->getVertScrollbar(), this->getHorzScrollbar()})
+        for (const String* event : {&Window::EventShown, &Window::EventHidden})
+            bar->subscribeEvent(*event, [this] { d_drawing.layOutParts(*this); });
     // Scrolling moves the items under a still pointer.
     this->getVertScrollbar()->subscribeEvent(Scrollbar::EventScrollPositionChanged,
                                              [this] { hoverUnderPointer(); });

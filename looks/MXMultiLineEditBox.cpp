@@ -36,12 +36,21 @@ void MXMultiLineEditBox::initialiseComponents()
             addChild(bar);
         }
     RedrawnWhenUncovered<MultiLineEditbox>::initialiseComponents();
+    // CEGUI shows and hides the bars after the layout: each one's length depends on the other.
+    for (Scrollbar* bar : {getVertScrollbar(), getHorzScrollbar()})
+        for (const String* event : {&Window::EventShown, &Window::EventHidden})
+            bar->subscribeEvent(*event, [this] { layOutBars(); });
 }
 
 void MXMultiLineEditBox::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
 {
     RedrawnWhenUncovered<MultiLineEditbox>::performChildWindowLayout(nonclientSizedHint,
                                                                      clientSizedHint);
+    layOutBars();
+}
+
+void MXMultiLineEditBox::layOutBars()
+{
     Window* vert = partOrNull(*this, VertScrollbarName);
     Window* horz = partOrNull(*this, HorzScrollbarName);
     if (!vert || !horz)

@@ -48,6 +48,7 @@ protected:
     EditboxImagery d_imagery;
 
 private:
+    void layOutBars();
     void drawLines(GeometryBuffer& buffer, const Rectf& area);
     void restartBlink();
 

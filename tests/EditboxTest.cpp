@@ -236,6 +236,21 @@ TEST_F(EditboxTest, MultiLineTextWrapsAndScrollsToTheCaret)
     context().injectKeyUp(Key::LeftControl);
     EXPECT_EQ(bar->getScrollPosition(), 0);
 
+    // Lines no longer wrapped bring the other bar too; the two meet at the corner.
+    auto& both = static_cast<MXMultiLineEditBox&>(
+        moxietest::place("MoxieLook/MultiLineEditbox", 300, 60, 160, 50));
+    both.setText("one two three four five six seven\n2\n3\n4\n5\n6");
+    ASSERT_FALSE(both.getHorzScrollbar()->isVisible());
+    both.setWordWrapping(false);
+    Scrollbar* vert = both.getVertScrollbar();
+    Scrollbar* horz = both.getHorzScrollbar();
+    ASSERT_TRUE(vert->isVisible());
+    ASSERT_TRUE(horz->isVisible());
+    EXPECT_EQ(vert->getUnclippedOuterRect().get().bottom(),
+              horz->getUnclippedOuterRect().get().top());
+    EXPECT_EQ(horz->getUnclippedOuterRect().get().right(),
+              vert->getUnclippedOuterRect().get().left());
+
     lines.setSelection(4, 12);
     const auto quads = drawnBy(lines);
     EXPECT_NE(std::find_if(quads.begin(), quads.end(),

@@ -98,6 +98,29 @@ TEST_F(ListboxTest, ItemsSitInTheAreaClearOfTheBarsAndSelectByClick)
                                         "ListboxSelectionBrush", "ListboxSelectionBrush"}));
 }
 
+TEST_F(ListboxTest, BarsShownAfterTheLayoutMeetAtTheCorner)
+{
+    Listbox& l = list(0);
+    moxietest::drawnBy(l);
+    for (int i = 0; i < 20; ++i)
+        l.addItem(new ListboxTextItem("A rather long item, wider than the list, number " +
+                                      PropertyHelper<int>::toString(i)));
+    const Rectf vert = l.getVertScrollbar()->getUnclippedOuterRect().get();
+    const Rectf horz = l.getHorzScrollbar()->getUnclippedOuterRect().get();
+    ASSERT_TRUE(l.getVertScrollbar()->isVisible());
+    ASSERT_TRUE(l.getHorzScrollbar()->isVisible());
+    EXPECT_EQ(vert.bottom(), horz.top());
+    EXPECT_EQ(horz.right(), vert.left());
+    // And a bar hidden again gives its corner back.
+    l.resetList();
+    EXPECT_FALSE(l.getHorzScrollbar()->isVisible());
+    for (int i = 0; i < 20; ++i)
+        l.addItem(new ListboxTextItem("short"));
+    ASSERT_TRUE(l.getVertScrollbar()->isVisible());
+    EXPECT_FALSE(l.getHorzScrollbar()->isVisible());
+    EXPECT_EQ(l.getVertScrollbar()->getUnclippedOuterRect().get().bottom(), 10 + 120 - 2);
+}
+
 TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
 {
     Listbox& l = list(1000);
