@@ -15,6 +15,16 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+namespace
+{
+// The list's acceptance is protected: reached through a pointer to it, on the list itself.
+struct DropListAccess : ComboDropList
+{
+    using Member = void (ComboDropList::*)(WindowEventArgs&);
+    static constexpr Member accept = &DropListAccess::onListSelectionAccepted;
+};
+} // namespace
+
 MXCombobox::MXCombobox(const String& type, const String& name)
     : RedrawnWhenUncovered<Combobox>(type, name)
 {
@@ -77,9 +87,17 @@ bool MXCombobox::editKeyDown(const EventArgs& args)
     if (key.scancode != Key::ArrowDown && key.scancode != Key::ArrowUp)
         return false;
     stepSelection(key.scancode == Key::ArrowDown ? 1 : -1);
-    if (const ListboxItem* item = getDropList()->getFirstSelectedItem())
-        setText(item->getText());
+    acceptListSelection();
     return true;
+}
+
+void MXCombobox::acceptListSelection()
+{
+    // As a click on the item: CEGUI's combo box takes its text and tells the host, which
+    // listens for the combo box's "ListSelectionAccepted"; the list keeps the item as the
+    // one to come back to when it closes.
+    WindowEventArgs accepted(getDropList());
+    (getDropList()->*DropListAccess::accept)(accepted);
 }
 
 bool MXCombobox::listKeyDown(const EventArgs& args)
@@ -93,14 +111,9 @@ bool MXCombobox::listKeyDown(const EventArgs& args)
         return true;
     case Key::Return:
     case Key::NumpadEnter:
-    {
-        // As a click on the item: the combo box takes its text and closes the list.
-        WindowEventArgs accepted(getDropList());
-        getDropList()->fireEvent(ComboDropList::EventListSelectionAccepted, accepted,
-                                 ComboDropList::EventNamespace);
+        acceptListSelection();
         hideDropList();
         return true;
-    }
     case Key::Escape:
         hideDropList();
         return true;

@@ -4,7 +4,8 @@
 // list (CEGUI never hits the combo box itself, only its parts, so a closed list's room
 // does not catch the pointer). Beyond CEGUI's own handling, keys choose items: up and down
 // in the edit area step through them; in the open list they move the selection, Return
-// chooses and Escape closes.
+// chooses and Escape closes. A choice by keys is accepted as a click's is, with CEGUI's
+// "ListSelectionAccepted".
 #pragma once
 
 #include "draw/RedrawnWhenUncovered.h"
@@ -47,6 +48,7 @@ private:
     bool listKeyDown(const EventArgs& args);
     //! Selects the item `step` places from the selected one (the first or last when none).
     void stepSelection(int step);
+    void acceptListSelection();
 };
 
 using MXComboboxFactory = LookFactory<MXCombobox>;

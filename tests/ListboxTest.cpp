@@ -196,6 +196,10 @@ TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
         context().injectKeyDown(scan);
         context().injectKeyUp(scan);
     };
+    // Each choice is reported to the host as a click's would be.
+    std::vector<String> accepted;
+    combo.subscribeEvent(Combobox::EventListSelectionAccepted,
+                         [&] { accepted.push_back(combo.getSelectedItem()->getText()); });
     combo.getEditbox()->activate();
     press(Key::ArrowDown);
     EXPECT_EQ(combo.getText(), "Dublin");
@@ -207,6 +211,7 @@ TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
     press(Key::Return);
     EXPECT_FALSE(drop.isVisible());
     EXPECT_EQ(combo.getText(), "Amsterdam");
+    EXPECT_EQ(accepted, (std::vector<String>{"Dublin", "Copenhagen", "Amsterdam"}));
 
     // Read-only, a click on the edit area opens the list; typing changes nothing.
     combo.setReadOnly(true);
