@@ -277,18 +277,33 @@ TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
     moxietest::leftUp();
     EXPECT_EQ(spinner.getCurrentValue(), 4);
 
-    // Each text mode validates what is typed into its edit box.
-    for (Spinner::TextInputMode mode :
-         {Spinner::FloatingPoint, Spinner::Integer, Spinner::Hexadecimal, Spinner::Octal})
-        EXPECT_NO_THROW(spinner.setTextInputMode(mode)) << mode;
-    spinner.setTextInputMode(Spinner::Integer);
+    // Each text mode takes a value typed in its notation and refuses a character outside it.
+    struct Typed
+    {
+        Spinner::TextInputMode mode;
+        const char* valid;
+        double value;
+        const char* invalid;
+    };
+    spinner.setMinimumValue(-100);
+    spinner.setMaximumValue(100);
     auto& edit = static_cast<Editbox&>(*spinner.getChild(Spinner::EditboxName));
-    edit.activate();
-    key(Key::End);
-    key(Key::Backspace);
-    type("7x");
-    EXPECT_EQ(spinner.getCurrentValue(), 7);
-    EXPECT_EQ(edit.getText(), "7");
+    for (const Typed& t :
+         {Typed{Spinner::FloatingPoint, "2.5", 2.5, "x"}, Typed{Spinner::Integer, "-7", -7, "."},
+          Typed{Spinner::Hexadecimal, "1f", 31, "g"}, Typed{Spinner::Octal, "17", 15, "8"}})
+    {
+        SCOPED_TRACE(t.valid);
+        spinner.setTextInputMode(t.mode);
+        edit.activate();
+        edit.setSelection(0, edit.getText().length());
+        key(Key::Delete);
+        type(t.valid);
+        EXPECT_EQ(spinner.getCurrentValue(), t.value);
+        const String before = edit.getText();
+        type(t.invalid);
+        EXPECT_EQ(edit.getText(), before);
+        EXPECT_EQ(spinner.getCurrentValue(), t.value);
+    }
 }
 
 TEST_F(EditboxTest, ProgressBarFillsAsFarAsItsProgress)

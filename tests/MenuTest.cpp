@@ -92,10 +92,50 @@ TEST_F(MenuTest, ItemsSizeToTheirTextsAndTheBarLaysThemOut)
                   MXPopupMenuItem::ArrowColumn);
 }
 
+TEST_F(MenuTest, AMenuFromALayoutSizesItsItemsToTheirTexts)
+{
+    Window* loaded = WindowManager::getSingleton().loadLayoutFromString(
+        "<GUILayout version=\"4\">"
+        "<Window type=\"MoxieLook/Menubar\" name=\"bar\">"
+        "<Property name=\"Area\" value=\"{{0,10},{0,300},{0,400},{0,326}}\" />"
+        "<Window type=\"MoxieLook/MenubarItem\" name=\"file\">"
+        "<Property name=\"Text\" value=\"File\" />"
+        "<Window type=\"MoxieLook/PopupMenu\" name=\"menu\">"
+        "<Window type=\"MoxieLook/PopupMenuItem\" name=\"open\">"
+        "<Property name=\"Text\" value=\"Open a file\" /></Window>"
+        "<Window type=\"MoxieLook/PopupMenuItem\" name=\"line\" />"
+        "</Window></Window>"
+        "<Window type=\"MoxieLook/MenubarItem\" name=\"help\">"
+        "<Property name=\"Text\" value=\"Help and about\" /></Window>"
+        "</Window></GUILayout>");
+    moxietest::context().getRootWindow()->addChild(loaded);
+    const Font& font = *loaded->getFont();
+    const auto width = [&](const String& text) { return std::ceil(font.getTextExtent(text)); };
+    Window& fileItem = *loaded->getChild("file");
+    Window& help = *loaded->getChild("help");
+    EXPECT_EQ(fileItem.getPixelSize().d_width, width("File") + 2 * MXMenubarItem::HorzPadding);
+    EXPECT_EQ(help.getPixelSize().d_width,
+              width("Help and about") + 2 * MXMenubarItem::HorzPadding);
+    EXPECT_EQ(help.getUnclippedOuterRect().get().left(),
+              fileItem.getUnclippedOuterRect().get().right() +
+                  static_cast<Menubar*>(loaded)->getItemSpacing());
+
+    clickOn(fileItem);
+    auto& menu = static_cast<PopupMenu&>(*loaded->getChild("file/menu"));
+    ASSERT_TRUE(menu.isPopupMenuOpen());
+    Window& openItem = *menu.getChild("open");
+    EXPECT_EQ(openItem.getPixelSize().d_width,
+              MXPopupMenuItem::CheckColumn + width("Open a file") + MXPopupMenuItem::TextGap);
+    EXPECT_EQ(menu.getChild("line")->getPixelSize().d_height, MXPopupMenuItem::SeparatorHeight);
+    WindowManager::getSingleton().destroyWindow(loaded);
+}
+
 TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
 {
     int opened = 0;
     open->subscribeEvent(MenuItem::EventClicked, [&] { ++opened; });
+    int disabledClicks = 0;
+    disabled->subscribeEvent(MenuItem::EventClicked, [&] { ++disabledClicks; });
 
     clickOn(*file);
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
@@ -126,6 +166,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
 
     // A disabled item cannot be chosen; choosing one fires its click and closes the menus.
     clickOn(*disabled);
+    EXPECT_EQ(disabledClicks, 0);
     EXPECT_TRUE(fileMenu->isPopupMenuOpen());
     clickOn(*open);
     EXPECT_EQ(opened, 1);
