@@ -42,13 +42,17 @@ void drawBand(const Window& window, MenuItemState state, const Rectf& area)
 // Activation alone misses a click on the bare root sheet: CEGUI 0.8 moves an already active
 // root to the front without a change of activation, so the menu would stay open. Every
 // press on any window is watched instead.
-Event::Connection onPressOutside(Window& menu, void (*close)(Window&))
+// `gone` is set when the menu is destroyed: the connection itself goes with the window,
+// never while CEGUI may be walking the event's subscribers.
+Event::Connection onPressOutside(Window& menu, const bool& gone, void (*close)(Window&))
 {
     return GlobalEventSet::getSingleton().subscribeEvent(
         Window::EventNamespace + "/" + Window::EventMouseButtonDown,
         Event::Subscriber(
-            [&menu, close](const EventArgs& args)
+            [&menu, &gone, close](const EventArgs& args)
             {
+                if (gone)
+                    return false;
                 const Window* pressed = static_cast<const MouseEventArgs&>(args).window;
                 if (pressed && pressed != &menu && !pressed->isAncestor(&menu))
                     close(menu);
@@ -96,7 +100,7 @@ MXMenubar::MXMenubar(const String& type, const String& name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
-    d_pressOutside = onPressOutside(*this, closeBarMenus);
+    d_pressOutside = onPressOutside(*this, d_destroyed, closeBarMenus);
 }
 
 Rectf MXMenubar::itemRenderArea() const
@@ -116,7 +120,7 @@ void MXMenubar::drawList()
 void MXMenubar::destroy()
 {
     // A destroyed bar waits in CEGUI's dead pool, its items already gone.
-    d_pressOutside.disconnect();
+    d_destroyed = true;
     RedrawnWhenUncovered<Menubar>::destroy();
 }
 
@@ -142,7 +146,7 @@ MXPopupMenu::MXPopupMenu(const String& type, const String& name)
     // It hangs off its menu item, over everything.
     setClippedByParent(false);
     setAlwaysOnTop(true);
-    d_pressOutside = onPressOutside(*this, closeOwnPopup);
+    d_pressOutside = onPressOutside(*this, d_destroyed, closeOwnPopup);
 }
 
 Rectf MXPopupMenu::itemRenderArea() const
@@ -178,7 +182,7 @@ void MXPopupMenu::drawList()
 
 void MXPopupMenu::destroy()
 {
-    d_pressOutside.disconnect();
+    d_destroyed = true;
     RedrawnWhenUncovered<PopupMenu>::destroy();
 }
 

@@ -83,6 +83,7 @@ protected:
     void onDeactivated(ActivationEventArgs& e) override;
 
 private:
+    bool d_destroyed = false;
     Event::ScopedConnection d_pressOutside;
 };
 
@@ -103,6 +104,7 @@ protected:
 
 private:
     NinePieceFrame d_frame;
+    bool d_destroyed = false;
     Event::ScopedConnection d_pressOutside;
 };
 

@@ -211,6 +211,23 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     moxietest::leftUp();
     pulse();
     EXPECT_FALSE(context.isPopupMenuOpen());
+
+    // A host that destroys its menu bar once its menu closes, inside the very press that
+    // closes it: the bar stops listening without pulling the ground from under CEGUI.
+    auto& once = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 10, 300, 200, 26));
+    MenuItem& tools = item(once, "MoxieLook/MenubarItem", "Tools");
+    item(popupOf(tools), "MoxieLook/PopupMenuItem", "Options");
+    once.subscribeEvent(MenuBase::EventPopupClosed,
+                        [&once] { WindowManager::getSingleton().destroyWindow(&once); });
+    clickOn(tools);
+    ASSERT_TRUE(tools.getPopupMenu()->isPopupMenuOpen());
+    moxietest::pointerTo(600, 200);
+    moxietest::leftDown();
+    moxietest::leftUp();
+    EXPECT_FALSE(WindowManager::getSingleton().isAlive(&once));
+    WindowManager::getSingleton().cleanDeadPool();
+    moxietest::leftDown(); // nobody left listening for it
+    moxietest::leftUp();
 }
 
 TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)

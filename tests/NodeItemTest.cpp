@@ -211,6 +211,17 @@ TEST_F(NodeItemTest, ResizeTakesItsStepsOnePerFrame)
     // 100.75 -> 101; 101 + 0.67 - 0.25 -> 101; then 102 and 103.
     EXPECT_EQ(widths, (std::vector<float>{101, 101, 102, 103, 103}));
 
+    // A size between two pixels is reached at the nearer one and stays there.
+    small.SetAbsoluteSize(Sizef(110.4f, 20), true);
+    widths.clear();
+    for (int i = 0; i < 8; ++i)
+    {
+        frame();
+        widths.push_back(small.getPixelSize().d_width);
+    }
+    EXPECT_EQ(std::vector<float>(widths.begin() + 4, widths.end()),
+              (std::vector<float>{110, 110, 110, 110}));
+
     child.SetResizeStepNumber(1);
     child.SetSelected(false);
     frame();

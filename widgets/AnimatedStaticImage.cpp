@@ -18,7 +18,8 @@ AnimatedStaticImageProperties::FrameFrequencyProperty s_frameFrequencyProperty;
 AnimatedStaticImage::AnimatedStaticImage(const String& type, const String& name)
     : StaticImage(type, name)
 {
-    // Time goes on while hidden: shown again, it catches up one frame per pulse.
+    // Time goes on while the window itself is hidden, so that shown again it is where it
+    // would have been.
     setUpdateMode(WUM_ALWAYS);
 }
 
@@ -55,6 +56,16 @@ void AnimatedStaticImage::setFrequency(int framesPerSecond)
     d_period = 1.0f / static_cast<float>(framesPerSecond);
 }
 
+void AnimatedStaticImage::onShown(WindowEventArgs& e)
+{
+    StaticImage::onShown(e);
+    if (d_hasPending)
+    {
+        d_hasPending = false;
+        setImage(d_pending);
+    }
+}
+
 void AnimatedStaticImage::updateSelf(float elapsed)
 {
     d_accumulated += elapsed;
@@ -63,9 +74,16 @@ void AnimatedStaticImage::updateSelf(float elapsed)
         d_accumulated -= d_period;
         if (!d_frames.empty())
         {
-            setImage(d_frames[d_next]);
+            d_pending = d_frames[d_next];
+            d_hasPending = true;
             d_next = (d_next + 1) % d_frames.size();
         }
+    }
+    // A hidden window is not redrawn for a frame nobody sees.
+    if (d_hasPending && isEffectiveVisible())
+    {
+        d_hasPending = false;
+        setImage(d_pending);
     }
     StaticImage::updateSelf(elapsed);
 }
@@ -85,7 +103,6 @@ String FrameProperty::get(const PropertyReceiver*) const
 
 void FrameProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    // An unknown name throws CEGUI's UnknownObjectException; nothing is appended.
     // An unknown name is a blank frame, as CEGUI reads image texts.
     static_cast<AnimatedStaticImage*>(receiver)->addFrame(
         PropertyHelper<Image*>::fromString(value));

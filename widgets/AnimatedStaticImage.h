@@ -30,6 +30,7 @@ public:
 
 protected:
     void updateSelf(float elapsed) override;
+    void onShown(WindowEventArgs& e) override;
 
 private:
     void addAnimatedStaticImageProperties();
@@ -38,6 +39,8 @@ private:
     float d_period = 1.0f / DefaultFrequency;
     float d_accumulated = 0.0f;
     std::size_t d_next = 0;
+    const Image* d_pending = nullptr; //!< the frame to show once the window can be seen
+    bool d_hasPending = false;
 };
 
 namespace AnimatedStaticImageProperties

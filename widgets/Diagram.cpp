@@ -34,8 +34,7 @@ float Measurement::getValue(float x) const
     const auto next = d_values.lower_bound(x);
     if (next != d_values.end() && !(x < next->first))
         return next->second;
-    // Outside the keys the previous or next key falls back to 0, which never lies strictly
-    // between them: the value is 0.
+    // Outside the keys the value is 0.
     if (next == d_values.end() || next == d_values.begin())
         return 0.0f;
     const auto prev = std::prev(next);

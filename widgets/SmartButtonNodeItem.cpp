@@ -292,7 +292,9 @@ void SmartButtonNodeItem::stepResize()
     if (d_button->getText() != getText())
         d_button->setText(getText());
     d_resizing = false;
-    if (target == current)
+    // CEGUI keeps sizes to whole pixels: within half a pixel of the target is there.
+    if (std::abs(target.d_width - current.d_width) < 0.5f &&
+        std::abs(target.d_height - current.d_height) < 0.5f)
     {
         d_resizeStepsDone = 0;
         return;

@@ -148,10 +148,13 @@ void TooltipEx::updateSelf(float elapsed)
 const TooltipEx::Words& TooltipEx::words(const Font& font) const
 {
     const String& text = getText();
-    if (d_words.font == &font && d_words.text == text)
+    // A font keeps its address when its size changes: its line spacing tells.
+    if (d_words.font == &font && d_words.lineSpacing == font.getLineSpacing() &&
+        d_words.text == text)
         return d_words;
     d_words.text = text;
     d_words.font = &font;
+    d_words.lineSpacing = font.getLineSpacing();
     d_words.widths.clear();
     d_words.widest = 0.0f;
     String::size_type start = 0;
@@ -213,7 +216,11 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
 
     // Searched first on the words' widths; CEGUI's wrapping has the last word, and where
     // it disagrees the search goes on with it.
-    if (getText().find('\n') == String::npos)
+    // Markup and tabs are measured differently by the wrapper: CEGUI's search alone then.
+    const String& text = getText();
+    const bool plainWords = text.find_first_of("\n\t") == String::npos &&
+                            !(isTextParsingEnabled() && text.find('[') != String::npos);
+    if (plainWords)
     {
         float modelFits = fits;
         float modelTooNarrow = widestWord;
@@ -222,6 +229,8 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
         while (modelFits - modelTooNarrow > BalancePrecision)
         {
             const float width = (modelFits + modelTooNarrow) * 0.5f;
+            if (width == modelFits || width == modelTooNarrow)
+                break; // widths too large to halve any further
             (greedyLines(measured.widths, measured.space, width) <= lines ? modelFits
                                                                           : modelTooNarrow) = width;
         }
@@ -236,6 +245,8 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
     while (fits - tooNarrow > BalancePrecision)
     {
         const float width = (fits + tooNarrow) * 0.5f;
+        if (width == fits || width == tooNarrow)
+            break;
         (wrapped(width).first <= lines ? fits : tooNarrow) = width;
     }
     return Sizef(wrapped(fits).second, lines * font->getLineSpacing());

@@ -66,6 +66,7 @@ private:
     {
         String text;
         const Font* font = nullptr;
+        float lineSpacing = 0.0f;
         std::vector<float> widths; //!< split at blanks and line breaks
         float widest = 0.0f;
         float space = 0.0f;

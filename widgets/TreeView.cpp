@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
+#include <limits>
 
 namespace CEGUI
 {
@@ -42,6 +43,13 @@ TreeViewProperties::TitleFontProperty s_titleFontProperty;
 bool within(const Rectf& r, const Vector2f& p)
 {
     return p.d_x >= r.left() && p.d_x <= r.right() && p.d_y >= r.top() && p.d_y <= r.bottom();
+}
+
+// A hit rectangle stretched to the right edge every row answers to.
+bool withinRow(Rectf r, float rowRight, const Vector2f& p)
+{
+    r.d_max.d_x = std::max(r.d_max.d_x, rowRight);
+    return within(r, p);
 }
 
 Rectf moved(Rectf r, const Vector2f& by)
@@ -252,22 +260,24 @@ void TreeView::Node::SetOpened(bool opened)
     changed(true);
 }
 
-TreeView::Node* TreeView::Node::hitTest(const Vector2f& point, bool& onNavigator)
+TreeView::Node* TreeView::Node::hitTest(const Vector2f& point, bool& onNavigator, float rowRight)
 {
-    if (d_visible && within(GetHitRect(), point))
+    if (d_visible && withinRow(GetHitRect(), rowRight, point))
     {
         onNavigator = !IsLeaf() && point.d_x <= GetHitRect().left() + d_iconWidth;
         return this;
     }
     for (const auto& child : d_children)
-        if (Node* found = child->hitTest(point, onNavigator))
+        if (Node* found = child->hitTest(point, onNavigator, rowRight))
             return found;
     return nullptr;
 }
 
 TreeView::Node* TreeView::Node::GetNodeAt(const Vector2f& point, bool& onNavigator)
 {
-    return hitTest(point, onNavigator);
+    const TreeView* owner = tree();
+    return hitTest(point, onNavigator,
+                   owner ? owner->rowHitRight() : -std::numeric_limits<float>::infinity());
 }
 
 TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
@@ -611,7 +621,7 @@ void TreeView::layOut()
                 const float textRight =
                     x + navWidth + iconWidth + node.textWidth(*font, d_metricsEpoch);
                 node.d_iconWidth = static_cast<unsigned>(navWidth);
-                node.d_hitRect = Rectf(x, bottom + 3.0f, lineHitRight(textRight), bottom + h);
+                node.d_hitRect = Rectf(x, bottom + 3.0f, textRight, bottom + h);
                 node.d_textRight = textRight;
                 node.d_hitRelative = true;
                 d_lines.push_back({&node, x, bottom, h, navWidth, iconWidth, textRight, order});
@@ -691,13 +701,14 @@ TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator)
         return d_root->GetNodeAt(point, onNavigator);
     // At most one line holds the point's height; a stray earlier in the walk wins over it.
     const float y = point.d_y - d_origin.d_y;
+    const float rowRight = rowHitRight();
     Node* best = nullptr;
     std::size_t bestOrder = SIZE_MAX;
     auto it =
         std::lower_bound(d_lines.begin(), d_lines.end(), y,
                          [](const Line& line, float at) { return line.y + line.height < at; });
     for (; it != d_lines.end() && it->y + 3.0f <= y; ++it)
-        if (it->node->d_visible && within(it->node->GetHitRect(), point))
+        if (it->node->d_visible && withinRow(it->node->GetHitRect(), rowRight, point))
         {
             best = it->node;
             bestOrder = it->order;
@@ -707,7 +718,7 @@ TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator)
     {
         if (order >= bestOrder)
             break;
-        if (within(stray->GetHitRect(), point))
+        if (withinRow(stray->GetHitRect(), rowRight, point))
         {
             best = stray;
             break;

@@ -16,6 +16,7 @@
 #include <CEGUI/Window.h>
 #include <cstdint>
 #include <exception>
+#include <limits>
 #include <list>
 #include <memory>
 #include <string>
@@ -150,7 +151,7 @@ public:
     private:
         friend class TreeView;
 
-        Node* hitTest(const Vector2f& point, bool& onNavigator);
+        Node* hitTest(const Vector2f& point, bool& onNavigator, float rowRight);
         void SetVisible(bool visible);
         float textWidth(const Font& font, std::uint32_t epoch);
 
@@ -247,8 +248,9 @@ protected:
     Rectf linesArea() const;
     //! The content size the pane scrolls over: the laid-out tree and one spare line.
     virtual Sizef contentSize() const;
-    //! Where a line whose text ends at `textRight` stops answering the mouse.
-    virtual float lineHitRight(float textRight) const { return textRight; }
+    //! The screen x up to which every line answers the mouse, whatever its text's length;
+    //! none by default: a line answers over its text.
+    virtual float rowHitRight() const { return -std::numeric_limits<float>::infinity(); }
 
     void onMouseLeaves(MouseEventArgs& e) override;
     void onMouseMove(MouseEventArgs& e) override;

@@ -83,14 +83,15 @@ Sizef TreeViewMultiColumnListEx::contentSize() const
     return size;
 }
 
-float TreeViewMultiColumnListEx::lineHitRight(float textRight) const
+float TreeViewMultiColumnListEx::rowHitRight() const
 {
-    return d_header ? std::max(textRight, d_header->getTotalSegmentsPixelExtent()) : textRight;
+    return d_header ? GetContentOrigin().d_x + d_header->getTotalSegmentsPixelExtent()
+                    : TreeView::rowHitRight();
 }
 
 bool TreeViewMultiColumnListEx::columnsChanged(const EventArgs&)
 {
-    nodesChanged(true); // rows reach as far as the columns
+    nodesChanged(false);
     return true;
 }
 

@@ -52,7 +52,7 @@ protected:
     //! As wide as the columns when they reach further than the tree.
     Sizef contentSize() const override;
     //! A row answers the mouse across all its columns, as list rows do.
-    float lineHitRight(float textRight) const override;
+    float rowHitRight() const override;
 
 private:
     bool columnsChanged(const EventArgs& e);
