@@ -37,6 +37,9 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
 void MXFrameWindow::initialiseComponents()
 {
     FrameWindowEx::initialiseComponents();
+    // The title bar and its buttons share the always-on-top group, where a click would raise
+    // the bar over the buttons for good: the bar keeps its place below them.
+    getTitlebar()->setZOrderingEnabled(false);
     // The title bar came after the minimise and roll-up buttons; they sit on it.
     for (Window* button :
          {static_cast<Window*>(d_minimizeButton), static_cast<Window*>(d_titleizeButton)})

@@ -6,6 +6,7 @@
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Titlebar.h>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace CEGUI;
@@ -51,6 +52,13 @@ protected:
                 return quad.rect;
         ADD_FAILURE() << "no frame drawn";
         return Rectf();
+    }
+
+    // A point on the title bar clear of its text and buttons.
+    static Vector2f titleSpot(const FrameWindow& window)
+    {
+        const Rectf bar = window.getTitlebar()->getUnclippedOuterRect().get();
+        return Vector2f(bar.left() + bar.getWidth() * 0.6f, bar.top() + bar.getHeight() * 0.5f);
     }
 
     MXFrameWindow* frame = nullptr;
@@ -255,4 +263,61 @@ TEST_F(FrameWindowTest, PartsAreLaidOutAndDrawnFromTheirImages)
     EXPECT_TRUE(drawnBy(*frame).empty());
     frame->toggleRollup();
     EXPECT_TRUE(frame->getContentPane()->isVisible());
+}
+
+// Whatever the user did to the title bar first, its buttons still take the next click.
+TEST_F(FrameWindowTest, TitleButtonsTakeClicksAfterTheTitleBarWasUsed)
+{
+    Window* loaded = WindowManager::getSingleton().loadLayoutFromString(
+        "<GUILayout version=\"4\"><Window type=\"MoxieLook/FrameWindow\" name=\"fromFile\">"
+        "<Property name=\"Area\" value=\"{{0,420},{0,80},{0,720},{0,280}}\" />"
+        "<Property name=\"RollupEnabled\" value=\"true\" /></Window></GUILayout>");
+    context().getRootWindow()->addChild(loaded);
+    frame->setRollupEnabled(true);
+
+    for (auto* window : {static_cast<FrameWindowEx*>(frame), static_cast<FrameWindowEx*>(loaded)})
+    {
+        window->getMinimizeButton()->show();
+        window->getTitleizeButton()->show();
+        const std::vector<std::pair<const char*, std::function<void()>>> touches = {
+            {"click", [&] { moxietest::click(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
+            {"drag",
+             [&]
+             {
+                 const Vector2f at = titleSpot(*window);
+                 moxietest::pointerTo(at.d_x, at.d_y);
+                 moxietest::leftDown();
+                 moxietest::pointerTo(at.d_x + 15, at.d_y + 10);
+                 moxietest::leftUp();
+             }},
+            {"double click (roll up)",
+             [&] { moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
+            {"double click (roll down)",
+             [&] { moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
+        };
+        const std::vector<std::pair<const char*, Window*>> buttons = {
+            {"roll-up", window->getTitleizeButton()},
+            {"minimise", window->getMinimizeButton()},
+            {"close", window->getCloseButton()}};
+        for (const auto& [touch, act] : touches)
+            for (const auto& [name, button] : buttons)
+            {
+                act();
+                int clicks = 0;
+                Event::Connection counted = button->subscribeEvent(
+                    PushButton::EventClicked, [&clicks] { ++clicks; });
+                const Vector2f at = moxietest::centreOf(*button);
+                moxietest::click(at.d_x, at.d_y);
+                counted->disconnect();
+                EXPECT_EQ(clicks, 1) << window->getName() << ": " << name << " after " << touch;
+                // Put the window back as it was for the next round.
+                if (window->isRolledup())
+                    window->toggleRollup();
+                if (window->isMinimized())
+                    window->restore(false);
+                window->show();
+                context().injectTimePulse(0.016f);
+                drawnBy(*window);
+            }
+    }
 }

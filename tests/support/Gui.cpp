@@ -128,4 +128,36 @@ void leftUp()
     context().injectMouseButtonUp(CEGUI::LeftButton);
 }
 
+void click(float x, float y)
+{
+    pointerTo(x, y);
+    leftDown();
+    leftUp();
+}
+
+void doubleClick(float x, float y)
+{
+    CEGUI::GUIContext& gui = context();
+    const float timeout = gui.getMouseButtonMultiClickTimeout();
+    gui.setMouseButtonMultiClickTimeout(10);
+    click(x, y);
+    pointerTo(x, y);
+    gui.injectMouseButtonDown(CEGUI::LeftButton);
+    gui.injectMouseButtonUp(CEGUI::LeftButton);
+    gui.setMouseButtonMultiClickTimeout(timeout);
+}
+
+void wheel(float x, float y, float notches)
+{
+    pointerTo(x, y);
+    context().injectMouseWheelChange(notches);
+}
+
+CEGUI::Vector2f centreOf(const CEGUI::Window& window)
+{
+    const CEGUI::Rectf& rect = window.getUnclippedOuterRect().get();
+    return CEGUI::Vector2f((rect.left() + rect.right()) * 0.5f,
+                           (rect.top() + rect.bottom()) * 0.5f);
+}
+
 } // namespace moxietest

@@ -30,6 +30,14 @@ CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, f
 void pointerTo(float x, float y);
 void leftDown();
 void leftUp();
+//! Moves to (x, y), presses and releases the left button.
+void click(float x, float y);
+//! Two presses at (x, y) that CEGUI folds into a double click, as a hand makes one.
+void doubleClick(float x, float y);
+//! Moves to (x, y) and turns the wheel by `notches` (positive away from the user).
+void wheel(float x, float y, float notches);
+//! The centre of a window on screen.
+CEGUI::Vector2f centreOf(const CEGUI::Window& window);
 
 std::string dataFile(const std::string& name);
 
