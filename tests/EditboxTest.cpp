@@ -8,6 +8,7 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
+#include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <gtest/gtest.h>
@@ -320,5 +321,60 @@ TEST_F(EditboxTest, ProgressBarFillsAsFarAsItsProgress)
             if (q.image.rfind("ProgressBarLit", 0) == 0)
                 lit = std::max(lit, q.rect.right());
         EXPECT_EQ(lit, width) << progress;
+    }
+}
+
+// However a multi-line box came to be empty, it takes clicks, drags, double clicks and keys.
+TEST_F(EditboxTest, EmptyMultiLineBoxesTakeEveryKindOfInput)
+{
+    using moxietest::centreOf;
+    auto make = [](float y)
+    {
+        return static_cast<MultiLineEditbox*>(
+            &moxietest::place("MoxieLook/MultiLineEditbox", 10, y, 200, 60));
+    };
+    std::vector<std::pair<const char*, MultiLineEditbox*>> boxes;
+    boxes.emplace_back("new", make(60));
+    boxes.emplace_back("set empty", make(130));
+    boxes.back().second->setText("gone");
+    boxes.back().second->setText("");
+    boxes.emplace_back("erased by keys", make(200));
+    boxes.back().second->setText("ab");
+    boxes.back().second->activate();
+    boxes.back().second->setCaretIndex(2);
+    key(Key::Backspace);
+    key(Key::Backspace);
+    key(Key::Backspace);
+    Window* loaded = WindowManager::getSingleton().loadLayoutFromString(
+        "<GUILayout version=\"4\"><Window type=\"MoxieLook/MultiLineEditbox\" name=\"fromFile\">"
+        "<Property name=\"Area\" value=\"{{0,10},{0,270},{0,210},{0,330}}\" />"
+        "<Property name=\"Text\" value=\"\" /></Window></GUILayout>");
+    context().getRootWindow()->addChild(loaded);
+    boxes.emplace_back("from a layout", static_cast<MultiLineEditbox*>(loaded));
+    boxes.emplace_back("read-only", make(340));
+    boxes.back().second->setReadOnly(true);
+
+    for (const auto& [how, lines] : boxes)
+    {
+        SCOPED_TRACE(how);
+        drawnBy(*lines);
+        const Vector2f at = centreOf(*lines);
+        moxietest::click(at.d_x, at.d_y);
+        EXPECT_EQ(lines->getCaretIndex(), 0u);
+        moxietest::pointerTo(at.d_x, at.d_y);
+        moxietest::leftDown();
+        moxietest::pointerTo(at.d_x + 40, at.d_y + 20);
+        moxietest::leftUp();
+        moxietest::doubleClick(at.d_x, at.d_y);
+        for (Key::Scan scan : {Key::ArrowLeft, Key::ArrowRight, Key::ArrowUp, Key::ArrowDown,
+                               Key::Home, Key::End, Key::Delete, Key::Backspace, Key::Return})
+            key(scan);
+        drawnBy(*lines);
+        if (lines->isReadOnly())
+            continue;
+        type("xy");
+        EXPECT_EQ(lines->getText().substr(0, 3), "\nxy") << "Return, then the typing";
+        moxietest::click(at.d_x, at.d_y);
+        drawnBy(*lines);
     }
 }
