@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "widgets/WheelForwarding.h"
 #include "looks/ScrollbarGeometry.h"
 #include "widgets/PushButtonEx.h"
 
@@ -80,6 +81,19 @@ void MXScrollbarBase::initialiseComponents()
     if (!isChild(ThumbName))
         addChild(createThumb(ThumbName));
     Scrollbar::initialiseComponents();
+    for (const String* part : {&DecreaseButtonName, &IncreaseButtonName, &ThumbName})
+        forwardWheel(*getChild(*part), *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
+}
+
+void MXScrollbarBase::onMouseWheel(MouseEventArgs& e)
+{
+    // An owner with a wheel rule of its own (a tree, a drop-down list) takes the turn by
+    // handling the event; otherwise one step a notch, as CEGUI's bar scrolls.
+    fireEvent(EventMouseWheel, e, Window::EventNamespace);
+    if (e.handled)
+        return;
+    setScrollPosition(getScrollPosition() + getStepSize() * -e.wheelChange);
+    ++e.handled;
 }
 
 PushButton* MXScrollbarBase::createArrowButton(const char* type, const String& name,

@@ -68,6 +68,7 @@ protected:
     virtual Thumb* createThumb(const String& name) const;
 
     void onSized(ElementEventArgs& e) override;
+    void onMouseWheel(MouseEventArgs& e) override;
     void storeFrameSizes();
 
     NinePieceFrame d_frame;

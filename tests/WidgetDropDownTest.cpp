@@ -161,3 +161,34 @@ TEST_F(WidgetDropDownTest, TheWheelMovesOneUnitPerNotch)
     moxietest::context().injectMouseWheelChange(-3);
     EXPECT_EQ(list->GetScrollbar()->getScrollPosition(), 3);
 }
+
+// At the bottom of the display the list opens above the box, whole, and still chooses.
+TEST_F(WidgetDropDownTest, AtTheBottomTheListOpensAboveAndStillChooses)
+{
+    fill(8);
+    int changes = 0;
+    box->subscribeEvent(WidgetDropDownListbox::EventSelectionChanged, [&] { ++changes; });
+    click(60, 30);
+    System::getSingleton().renderAllGUIContexts();
+    EXPECT_EQ(list->getUnclippedOuterRect().get().top(), 46); // below, where it fits
+    click(60, 30);
+
+    box->setPosition(UVector2(cegui_absdim(20), cegui_absdim(560)));
+    const Rectf closed = box->getUnclippedOuterRect().get();
+    for (int round = 0; round < 2; ++round) // open, close and open again
+    {
+        click(closed.left() + 40, closed.top() + 10);
+        ASSERT_TRUE(list->isVisible());
+        System::getSingleton().renderAllGUIContexts();
+        const Rectf open = list->getUnclippedOuterRect().get();
+        EXPECT_EQ(open.bottom(), closed.top());
+        EXPECT_GE(open.top(), 0);
+        if (round == 0)
+            click(closed.left() + 40, closed.top() + 10);
+    }
+    const Vector2f at = centreOf(list->GetItem(2));
+    click(at.d_x, at.d_y);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(box->GetSelectedIndex(), 2);
+    EXPECT_FALSE(list->isVisible());
+}

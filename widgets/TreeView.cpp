@@ -1,6 +1,7 @@
 #include "widgets/TreeView.h"
 
 #include "draw/Imagery.h"
+#include "widgets/WheelForwarding.h"
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
@@ -9,6 +10,7 @@
 #include <CEGUI/PropertyHelper.h>
 #include <CEGUI/System.h>
 #include <CEGUI/widgets/ScrollablePane.h>
+#include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/ScrolledContainer.h>
 #include <algorithm>
 #include <cmath>
@@ -406,6 +408,8 @@ void TreeView::initialiseComponents()
         content->setMousePassThroughEnabled(true);
     d_pane->subscribeEvent(ScrollablePane::EventContentPaneScrolled,
                            Event::Subscriber(&TreeView::Update, this));
+    for (Scrollbar* bar : {d_pane->getVertScrollbar(), d_pane->getHorzScrollbar()})
+        forwardWheel(*bar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
 
     for (const String* event :
          {&EventLeafItemClicked, &EventLeafItemDoubleClicked, &EventTitleItemClicked,

@@ -1,6 +1,7 @@
 #include "widgets/WidgetDropDownList.h"
 
 #include "draw/Imagery.h"
+#include "widgets/WheelForwarding.h"
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
@@ -26,6 +27,7 @@ void WidgetDropDownList::initialiseComponents()
     addChild(d_scrollbar);
     d_scrollbar->subscribeEvent(Scrollbar::EventScrollPositionChanged,
                                 Event::Subscriber(&WidgetDropDownList::OnScrollBarMoved, this));
+    forwardWheel(*d_scrollbar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
     LayoutContent();
 }
 

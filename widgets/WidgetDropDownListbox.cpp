@@ -78,6 +78,7 @@ const WidgetDropDownList::Item& WidgetDropDownListbox::GetSelectedItem() const
 
 void WidgetDropDownListbox::ShowDropList()
 {
+    placeList();
     d_list->setAlwaysOnTop(true);
     d_list->show();
     d_list->activate();
@@ -139,9 +140,19 @@ void WidgetDropDownListbox::placeParts()
     const Rectf content = contentArea();
     d_button->setArea(UVector2(cegui_absdim(content.right()), cegui_absdim(content.top())),
                       USize(cegui_absdim(DropButtonRoom), cegui_absdim(content.getHeight())));
-    d_list->setArea(
-        UVector2(cegui_absdim(0), cegui_absdim(own.d_height)),
-        USize(cegui_absdim(own.d_width), cegui_absdim(d_list->getPixelSize().d_height)));
+    d_list->setWidth(cegui_absdim(own.d_width));
+    placeList();
+}
+
+void WidgetDropDownListbox::placeList()
+{
+    // Below the box, unless the display ends first and there is room above.
+    const float height = d_list->getPixelSize().d_height;
+    const Rectf box = getUnclippedOuterRect().get();
+    const bool above =
+        box.bottom() + height > getRootContainerSize().d_height && box.top() - height >= 0;
+    d_list->setPosition(
+        UVector2(cegui_absdim(0), cegui_absdim(above ? -height : getPixelSize().d_height)));
 }
 
 void WidgetDropDownListbox::onSized(ElementEventArgs& e)

@@ -64,6 +64,7 @@ private:
     bool OnDeactivated(const EventArgs& args);
     bool OnListClicked(const EventArgs& args);
     void placeParts();
+    void placeList();
 
     ButtonEx* d_button = nullptr;
     WidgetDropDownList* d_list = nullptr;
