@@ -3,6 +3,7 @@
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "widgets/ButtonDrawState.h"
+#include "widgets/WheelForwarding.h"
 
 #include <cmath>
 
@@ -38,6 +39,7 @@ void MXSlider::initialiseComponents()
     if (!isChild(ThumbName))
         addChild(createThumb(ThumbName));
     Slider::initialiseComponents();
+    forwardWheel(*getThumb(), *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
 }
 
 Thumb* MXSlider::createThumb(const String& name) const
