@@ -54,11 +54,17 @@ void ThreePieceBar::draw(GeometryBuffer& buffer, const Rectf& area, const Colour
             middle->render(buffer, middleArea, clip, colours);
         else
         {
-            // Tiles past the right end are cut there.
+            // Only the tiles that meet the clip, counted from the middle's left edge in
+            // doubles: a float position stops moving past 2^24 pixels.
             const Rectf cut = clip ? middleArea.getIntersection(*clip) : middleArea;
-            for (float x = middleArea.left(); x < middleArea.right(); x += tile)
-                if (x + tile > cut.left() && x < cut.right())
-                    middle->render(buffer, Rectf(x, top, x + tile, bottom), &cut, colours);
+            const double origin = middleArea.left();
+            const double first = std::floor((cut.left() - origin) / tile);
+            const double end = std::ceil((cut.right() - origin) / tile);
+            for (double i = std::max(0.0, first); i < end; ++i)
+            {
+                const float x = static_cast<float>(origin + i * tile);
+                middle->render(buffer, Rectf(x, top, x + tile, bottom), &cut, colours);
+            }
         }
     }
     if (right && rightWidth > 0)

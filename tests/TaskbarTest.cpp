@@ -193,3 +193,21 @@ TEST_F(TaskbarTest, AWindowDestroyedTakesItsButtonAlong)
     release(button(0), LeftButton);
     EXPECT_TRUE(windows[0]->isActive());
 }
+
+// A bar far wider than the display tiles only what can be seen, and covers all of that.
+TEST_F(TaskbarTest, AHugeBarDrawsOnlyTheTilesInView)
+{
+    const float height = bar->getPixelSize().d_height;
+    const auto normal = drawnBy(*bar);
+    bar->setSize(USize(cegui_absdim(2e9f), cegui_absdim(height)));
+    const auto huge = drawnBy(*bar);
+    EXPECT_LE(huge.size(), normal.size() + 2);
+    float covered = 0;
+    for (const auto& quad : huge)
+        covered = std::max(covered, quad.rect.right());
+    EXPECT_GE(covered, 800.0f); // the whole display width is tiled
+    bar->setPosition(UVector2(cegui_absdim(-1e9f), bar->getPosition().d_y));
+    const auto shifted = drawnBy(*bar);
+    EXPECT_LE(shifted.size(), normal.size() + 2);
+    EXPECT_FALSE(shifted.empty());
+}
