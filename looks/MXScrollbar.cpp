@@ -2,9 +2,9 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
-#include "widgets/WheelForwarding.h"
 #include "looks/ScrollbarGeometry.h"
 #include "widgets/PushButtonEx.h"
+#include "widgets/WheelForwarding.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/WindowManager.h>

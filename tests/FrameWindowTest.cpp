@@ -304,8 +304,8 @@ TEST_F(FrameWindowTest, TitleButtonsTakeClicksAfterTheTitleBarWasUsed)
             {
                 act();
                 int clicks = 0;
-                Event::Connection counted = button->subscribeEvent(
-                    PushButton::EventClicked, [&clicks] { ++clicks; });
+                Event::Connection counted =
+                    button->subscribeEvent(PushButton::EventClicked, [&clicks] { ++clicks; });
                 const Vector2f at = moxietest::centreOf(*button);
                 moxietest::click(at.d_x, at.d_y);
                 counted->disconnect();

@@ -13,16 +13,15 @@ namespace MoxieLook
 inline Event::Connection forwardWheel(Window& part, Window& owner,
                                       std::function<void(MouseEventArgs&)> ownerHandler)
 {
-    return part.subscribeEvent(
-        Window::EventMouseWheel,
-        [&owner, handler = std::move(ownerHandler)](const EventArgs& args)
-        {
-            MouseEventArgs turn(static_cast<const MouseEventArgs&>(args));
-            turn.window = &owner;
-            turn.handled = 0;
-            handler(turn);
-            return true; // taken: the part neither scrolls nor passes it on
-        });
+    return part.subscribeEvent(Window::EventMouseWheel,
+                               [&owner, handler = std::move(ownerHandler)](const EventArgs& args)
+                               {
+                                   MouseEventArgs turn(static_cast<const MouseEventArgs&>(args));
+                                   turn.window = &owner;
+                                   turn.handled = 0;
+                                   handler(turn);
+                                   return true; // taken: the part neither scrolls nor passes it on
+                               });
 }
 
 } // namespace MoxieLook

@@ -69,8 +69,7 @@ Trace run(const ParityScript& script, const String& skin)
     Window& sheet = freshSheet();
     context().setMouseButtonMultiClickTimeout(1e-9);
     Window* widget = WindowManager::getSingleton().createWindow(skin + "/" + script.type);
-    const Rectf area =
-        skin == "TaharezLook" && script.stockArea ? *script.stockArea : script.area;
+    const Rectf area = skin == "TaharezLook" && script.stockArea ? *script.stockArea : script.area;
     widget->setArea(URect(cegui_absdim(area.left()), cegui_absdim(area.top()),
                           cegui_absdim(area.right()), cegui_absdim(area.bottom())));
     sheet.addChild(widget);
@@ -79,8 +78,8 @@ Trace run(const ParityScript& script, const String& skin)
 
     std::map<std::string, int> fired;
     for (const String& event : script.events)
-        widget->subscribeEvent(event, [&fired, name = std::string(event.c_str())]
-                               { ++fired[name]; });
+        widget->subscribeEvent(event,
+                               [&fired, name = std::string(event.c_str())] { ++fired[name]; });
     Trace trace;
     for (const ParityStep& step : script.steps)
     {
@@ -115,9 +114,9 @@ void expectSameBehaviour(const ParityScript& script)
             if (script.differences.count(where))
                 EXPECT_NE(mine, value) << script.type << ": " << where << " was to differ";
             else
-                EXPECT_EQ(mine, value) << script.type << ": after step " << i + 1 << " ("
-                                       << where << ") MoxieLook has \"" << mine
-                                       << "\", TaharezLook \"" << value << "\"";
+                EXPECT_EQ(mine, value)
+                    << script.type << ": after step " << i + 1 << " (" << where
+                    << ") MoxieLook has \"" << mine << "\", TaharezLook \"" << value << "\"";
         }
 }
 

@@ -87,15 +87,15 @@ TEST(Parity, Editbox)
                     typing("type again", "abc def"),
                     keys("left twice", {Key::ArrowLeft, Key::ArrowLeft}),
                     keys("delete", {Key::Delete}),
-                    {"double click a word", [](Window& w)
+                    {"double click a word",
+                     [](Window& w)
                      {
                          const Vector2f at = pointIn(w, 0.5f, 0.5f);
                          doubleClick(at.d_x, at.d_y);
                      }},
                     keys("erase to empty",
-                         {Key::End, Key::Backspace, Key::Backspace, Key::Backspace,
-                          Key::Backspace, Key::Backspace, Key::Backspace, Key::Backspace,
-                          Key::Backspace}),
+                         {Key::End, Key::Backspace, Key::Backspace, Key::Backspace, Key::Backspace,
+                          Key::Backspace, Key::Backspace, Key::Backspace, Key::Backspace}),
                     clickOn("click the emptied box", 0.9f, 0.5f),
                     typing("type into it", "x"),
                     {"read-only refuses typing", [](Window& w)
@@ -122,32 +122,33 @@ TEST(Parity, MultiLineEditbox)
     ParityScript script;
     script.type = "MultiLineEditbox";
     script.area = Rectf(100, 100, 300, 200);
-    script.steps = {clickOn("click into the empty box", 0.5f, 0.5f),
-                    typing("type", "one two"),
-                    keys("new line", {Key::Return}),
-                    typing("type the second line", "three"),
-                    keys("up and end", {Key::ArrowUp, Key::End}),
-                    shiftKey("select a line down", Key::ArrowDown),
-                    keys("erase", {Key::Backspace}),
-                    keys("erase to empty",
-                         {Key::Home, Key::Delete, Key::Delete, Key::Delete, Key::Delete,
-                          Key::Delete, Key::Delete, Key::Delete, Key::Delete, Key::Delete}),
-                    clickOn("click the emptied box", 0.5f, 0.8f),
-                    {"double click it", [](Window& w)
-                     {
-                         const Vector2f at = pointIn(w, 0.5f, 0.5f);
-                         doubleClick(at.d_x, at.d_y);
-                     }},
-                    typing("type again", "z"),
-                    {"many lines, then the wheel", [](Window& w)
-                     {
-                         String text;
-                         for (int i = 0; i < 40; ++i)
-                             text += "line\n";
-                         w.setText(text);
-                         const Vector2f at = pointIn(w, 0.4f, 0.5f);
-                         wheel(at.d_x, at.d_y, -2);
-                     }}};
+    script.steps = {
+        clickOn("click into the empty box", 0.5f, 0.5f),
+        typing("type", "one two"),
+        keys("new line", {Key::Return}),
+        typing("type the second line", "three"),
+        keys("up and end", {Key::ArrowUp, Key::End}),
+        shiftKey("select a line down", Key::ArrowDown),
+        keys("erase", {Key::Backspace}),
+        keys("erase to empty", {Key::Home, Key::Delete, Key::Delete, Key::Delete, Key::Delete,
+                                Key::Delete, Key::Delete, Key::Delete, Key::Delete, Key::Delete}),
+        clickOn("click the emptied box", 0.5f, 0.8f),
+        {"double click it",
+         [](Window& w)
+         {
+             const Vector2f at = pointIn(w, 0.5f, 0.5f);
+             doubleClick(at.d_x, at.d_y);
+         }},
+        typing("type again", "z"),
+        {"many lines, then the wheel", [](Window& w)
+         {
+             String text;
+             for (int i = 0; i < 40; ++i)
+                 text += "line\n";
+             w.setText(text);
+             const Vector2f at = pointIn(w, 0.4f, 0.5f);
+             wheel(at.d_x, at.d_y, -2);
+         }}};
     script.observe = [](const Window& w, Observation& seen)
     {
         const auto& box = static_cast<const MultiLineEditbox&>(w);
@@ -169,8 +170,8 @@ TEST(Parity, CheckboxAndRadioButton)
     check.setUp = [](Window& w) { w.setText("Sound"); };
     check.steps = {clickOn("click", 0.1f, 0.5f),
                    clickOn("click again", 0.5f, 0.5f),
-                   {"press, slip off, release", [](Window& w)
-                    { dragFrom(pointIn(w, 0.1f, 0.5f), pointIn(w, 1.5f, 3.0f)); }},
+                   {"press, slip off, release",
+                    [](Window& w) { dragFrom(pointIn(w, 0.1f, 0.5f), pointIn(w, 1.5f, 3.0f)); }},
                    {"disabled", [](Window& w)
                     {
                         w.disable();
@@ -197,11 +198,11 @@ TEST(Parity, CheckboxAndRadioButton)
         }
     };
     auto sibling = [](Window& w, int i) -> Window& { return *w.getParent()->getChildAtIdx(i); };
-    radio.steps = {clickOn("select the first", 0.1f, 0.5f),
-                   {"select the third", [&](Window& w)
-                    { clickAt(pointIn(sibling(w, 2), 0.1f, 0.5f)); }},
-                   clickOn("the first again", 0.1f, 0.5f),
-                   clickOn("re-click the selected first", 0.1f, 0.5f)};
+    radio.steps = {
+        clickOn("select the first", 0.1f, 0.5f),
+        {"select the third", [&](Window& w) { clickAt(pointIn(sibling(w, 2), 0.1f, 0.5f)); }},
+        clickOn("the first again", 0.1f, 0.5f),
+        clickOn("re-click the selected first", 0.1f, 0.5f)};
     radio.observe = [sibling](const Window& w, Observation& seen)
     {
         for (int i = 0; i < 3; ++i)
@@ -229,7 +230,8 @@ TEST(Parity, SliderAndScrollbars)
                      [](Window& w) { clickAt(towardsEnd(w, true)); }},
                     {"click the track towards the bottom value",
                      [](Window& w) { clickAt(towardsEnd(w, false)); }},
-                    {"wheel over the thumb", [](Window& w)
+                    {"wheel over the thumb",
+                     [](Window& w)
                      {
                          const Vector2f at = pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f);
                          wheel(at.d_x, at.d_y, 1);
@@ -262,26 +264,26 @@ TEST(Parity, SliderAndScrollbars)
         };
         auto along = [vertical](Window& w, float f)
         { return vertical ? pointIn(w, 0.5f, f) : pointIn(w, f, 0.5f); };
-        bar.steps = {{"the increase arrow", [](Window& w)
-                      { clickAt(pointIn(partOf(w, "__auto_incbtn__"), 0.5f, 0.5f)); }},
-                     {"the decrease arrow", [](Window& w)
-                      { clickAt(pointIn(partOf(w, "__auto_decbtn__"), 0.5f, 0.5f)); }},
-                     {"the track near the end", [along](Window& w) { clickAt(along(w, 0.85f)); }},
-                     {"wheel over the thumb", [](Window& w)
-                      {
-                          const Vector2f at = pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f);
-                          wheel(at.d_x, at.d_y, -1);
-                      }},
-                     {"wheel over the track", [along](Window& w)
-                      {
-                          const Vector2f at = along(w, 0.8f);
-                          wheel(at.d_x, at.d_y, 1);
-                      }},
-                     {"drag the thumb far", [along](Window& w)
-                      {
-                          dragFrom(pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f),
-                                   along(w, 2.0f));
-                      }}};
+        bar.steps = {
+            {"the increase arrow",
+             [](Window& w) { clickAt(pointIn(partOf(w, "__auto_incbtn__"), 0.5f, 0.5f)); }},
+            {"the decrease arrow",
+             [](Window& w) { clickAt(pointIn(partOf(w, "__auto_decbtn__"), 0.5f, 0.5f)); }},
+            {"the track near the end", [along](Window& w) { clickAt(along(w, 0.85f)); }},
+            {"wheel over the thumb",
+             [](Window& w)
+             {
+                 const Vector2f at = pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f);
+                 wheel(at.d_x, at.d_y, -1);
+             }},
+            {"wheel over the track",
+             [along](Window& w)
+             {
+                 const Vector2f at = along(w, 0.8f);
+                 wheel(at.d_x, at.d_y, 1);
+             }},
+            {"drag the thumb far", [along](Window& w)
+             { dragFrom(pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f), along(w, 2.0f)); }}};
         bar.observe = [](const Window& w, Observation& seen)
         { seen.set("position", static_cast<const Scrollbar&>(w).getScrollPosition()); };
         bar.events = {Scrollbar::EventScrollPositionChanged};
@@ -294,17 +296,18 @@ TEST(Parity, ProgressBar)
     ParityScript bar;
     bar.type = "ProgressBar";
     bar.area = Rectf(100, 100, 300, 120);
-    bar.steps = {{"set half", [](Window& w) { static_cast<ProgressBar&>(w).setProgress(0.5f); }},
-                 {"step", [](Window& w)
-                  {
-                      auto& p = static_cast<ProgressBar&>(w);
-                      p.setStepSize(0.3f);
-                      p.step();
-                  }},
-                 {"step past the end", [](Window& w) { static_cast<ProgressBar&>(w).step(); }},
-                 {"adjust below zero",
-                  [](Window& w) { static_cast<ProgressBar&>(w).adjustProgress(-5); }},
-                 clickOn("a click changes nothing", 0.5f, 0.5f)};
+    bar.steps = {
+        {"set half", [](Window& w) { static_cast<ProgressBar&>(w).setProgress(0.5f); }},
+        {"step",
+         [](Window& w)
+         {
+             auto& p = static_cast<ProgressBar&>(w);
+             p.setStepSize(0.3f);
+             p.step();
+         }},
+        {"step past the end", [](Window& w) { static_cast<ProgressBar&>(w).step(); }},
+        {"adjust below zero", [](Window& w) { static_cast<ProgressBar&>(w).adjustProgress(-5); }},
+        clickOn("a click changes nothing", 0.5f, 0.5f)};
     bar.observe = [](const Window& w, Observation& seen)
     { seen.set("progress", static_cast<const ProgressBar&>(w).getProgress()); };
     bar.events = {ProgressBar::EventProgressChanged, ProgressBar::EventProgressDone};

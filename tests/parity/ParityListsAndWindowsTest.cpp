@@ -6,8 +6,8 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/InputEvent.h>
 #include <CEGUI/WindowManager.h>
-#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/ComboDropList.h>
+#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/FrameWindow.h>
 #include <CEGUI/widgets/ListHeader.h>
 #include <CEGUI/widgets/ListHeaderSegment.h>
@@ -67,26 +67,31 @@ TEST(Parity, Listbox)
     };
     auto list = [](Window& w) -> Listbox& { return static_cast<Listbox&>(w); };
     script.steps = {{"click the third item", [=](Window& w) { clickAt(itemCentre(list(w), 2)); }},
-                    {"wheel down two notches", [](Window& w)
+                    {"wheel down two notches",
+                     [](Window& w)
                      {
                          const Vector2f at = pointIn(w, 0.3f, 0.5f);
                          wheel(at.d_x, at.d_y, -2);
                      }},
-                    {"click the first item in view", [=](Window& w)
+                    {"click the first item in view",
+                     [=](Window& w)
                      {
                          Listbox& l = list(w);
                          // The second item below the top of the list area.
-                         const float rowHeight = l.getListboxItemFromIndex(0)->getPixelSize().d_height;
+                         const float rowHeight =
+                             l.getListboxItemFromIndex(0)->getPixelSize().d_height;
                          const auto first = static_cast<std::size_t>(
                              l.getVertScrollbar()->getScrollPosition() / rowHeight + 0.99f);
                          clickAt(itemCentre(l, first + 1));
                      }},
-                    {"increase arrow of the bar", [=](Window& w)
+                    {"increase arrow of the bar",
+                     [=](Window& w)
                      {
                          Window& bar = *list(w).getVertScrollbar();
                          clickAt(pointIn(partOf(bar, "__auto_incbtn__"), 0.5f, 0.5f));
                      }},
-                    {"multiselect, then a second item", [=](Window& w)
+                    {"multiselect, then a second item",
+                     [=](Window& w)
                      {
                          list(w).setMultiselectEnabled(true);
                          list(w).ensureItemIsVisible(std::size_t(10));
@@ -117,22 +122,25 @@ TEST(Parity, Combobox)
             combo.addItem(new ListboxTextItem(numbered("Choice ", i)));
     };
     auto combo = [](Window& w) -> Combobox& { return static_cast<Combobox&>(w); };
-    script.steps = {{"open by its button", [=](Window& w)
-                     { clickAt(pointIn(*combo(w).getPushButton(), 0.5f, 0.5f)); }},
-                    {"choose the second item", [=](Window& w)
+    script.steps = {{"open by its button",
+                     [=](Window& w) { clickAt(pointIn(*combo(w).getPushButton(), 0.5f, 0.5f)); }},
+                    {"choose the second item",
+                     [=](Window& w)
                      {
                          ComboDropList& drop = *combo(w).getDropList();
                          clickAt(itemCentre(drop, 1));
                      }},
-                    {"reopen and wheel the list", [=](Window& w)
+                    {"reopen and wheel the list",
+                     [=](Window& w)
                      {
                          clickAt(pointIn(*combo(w).getPushButton(), 0.5f, 0.5f));
                          const Vector2f at = pointIn(*combo(w).getDropList(), 0.4f, 0.5f);
                          wheel(at.d_x, at.d_y, -1);
                      }},
-                    {"close by its button", [=](Window& w)
-                     { clickAt(pointIn(*combo(w).getPushButton(), 0.5f, 0.5f)); }},
-                    {"type into the edit part", [=](Window& w)
+                    {"close by its button",
+                     [=](Window& w) { clickAt(pointIn(*combo(w).getPushButton(), 0.5f, 0.5f)); }},
+                    {"type into the edit part",
+                     [=](Window& w)
                      {
                          clickAt(pointIn(partOf(w, "__auto_editbox__"), 0.8f, 0.5f));
                          pressKey(Key::End);
@@ -188,22 +196,23 @@ TEST(Parity, MultiColumnListAndItsHeader)
         return Vector2f(origin.d_x + area.left() + 30,
                         origin.d_y + top + g.getHighestRowItemHeight(row) * 0.5f);
     };
-    script.steps = {{"click the second row", [=](Window& w) { clickAt(rowCentre(w, 1)); }},
-                    {"sort by the first heading", [=](Window& w)
-                     { clickAt(pointIn(segment(w, 0), 0.4f, 0.5f)); }},
-                    {"sort it the other way", [=](Window& w)
-                     { clickAt(pointIn(segment(w, 0), 0.4f, 0.5f)); }},
-                    {"widen the first column by its splitter", [=](Window& w)
-                     {
-                         const Rectf edge = segment(w, 0).getUnclippedOuterRect().get();
-                         const Vector2f from(edge.right() - 1, edge.top() + edge.getHeight() / 2);
-                         dragFrom(from, Vector2f(from.d_x + 30, from.d_y));
-                     }},
-                    {"wheel down", [](Window& w)
-                     {
-                         const Vector2f at = pointIn(w, 0.3f, 0.6f);
-                         wheel(at.d_x, at.d_y, -2);
-                     }}};
+    script.steps = {
+        {"click the second row", [=](Window& w) { clickAt(rowCentre(w, 1)); }},
+        {"sort by the first heading",
+         [=](Window& w) { clickAt(pointIn(segment(w, 0), 0.4f, 0.5f)); }},
+        {"sort it the other way", [=](Window& w) { clickAt(pointIn(segment(w, 0), 0.4f, 0.5f)); }},
+        {"widen the first column by its splitter",
+         [=](Window& w)
+         {
+             const Rectf edge = segment(w, 0).getUnclippedOuterRect().get();
+             const Vector2f from(edge.right() - 1, edge.top() + edge.getHeight() / 2);
+             dragFrom(from, Vector2f(from.d_x + 30, from.d_y));
+         }},
+        {"wheel down", [](Window& w)
+         {
+             const Vector2f at = pointIn(w, 0.3f, 0.6f);
+             wheel(at.d_x, at.d_y, -2);
+         }}};
     script.observe = [](const Window& w, Observation& seen)
     {
         const auto& g = static_cast<const MultiColumnList&>(w);
@@ -215,7 +224,8 @@ TEST(Parity, MultiColumnListAndItsHeader)
                  g.getHeaderSegmentForColumn(0).getPixelSize().d_width >= 140);
         seen.set("scrolled", g.getVertScrollbar()->getScrollPosition() > 0);
     };
-    script.events = {MultiColumnList::EventSelectionChanged, MultiColumnList::EventSortColumnChanged,
+    script.events = {MultiColumnList::EventSelectionChanged,
+                     MultiColumnList::EventSortColumnChanged,
                      MultiColumnList::EventSortDirectionChanged};
     expectSameBehaviour(script);
 }
@@ -229,7 +239,7 @@ TEST(Parity, MenubarAndPopupMenu)
     static const auto itemType = [](const Window& bar)
     {
         return bar.getType().find("MoxieLook") == 0 ? String("MoxieLook/MenubarItem")
-                                                     : String("TaharezLook/MenuItem");
+                                                    : String("TaharezLook/MenuItem");
     };
     script.setUp = [](Window& w)
     {
@@ -243,36 +253,35 @@ TEST(Parity, MenubarAndPopupMenu)
         file->addChild(popup);
         for (const char* text : {"Open", "Save", "Quit"})
         {
-            Window* item = windows.createWindow(ours ? "MoxieLook/PopupMenuItem"
-                                                     : "TaharezLook/MenuItem",
-                                                String("item") + text);
+            Window* item = windows.createWindow(
+                ours ? "MoxieLook/PopupMenuItem" : "TaharezLook/MenuItem", String("item") + text);
             item->setText(text);
             popup->addChild(item);
         }
     };
     static int clicked = 0;
     auto file = [](Window& w) -> MenuItem& { return static_cast<MenuItem&>(*w.getChild("file")); };
-    script.steps = {{"click File", [=](Window& w)
-                     {
-                         clicked = 0;
-                         for (const char* text : {"Open", "Save", "Quit"})
-                             file(w).getPopupMenu()->getChild(String("item") + text)
-                                 ->subscribeEvent(MenuItem::EventClicked, [] { ++clicked; });
-                         clickAt(pointIn(file(w), 0.5f, 0.5f));
-                     }},
-                    {"click Save", [=](Window& w)
-                     {
-                         clickAt(pointIn(*file(w).getPopupMenu()->getChild("itemSave"), 0.5f,
-                                         0.5f));
-                     }},
-                    {"open again", [=](Window& w) { clickAt(pointIn(file(w), 0.5f, 0.5f)); }},
-                    {"click File to close", [=](Window& w)
-                     { clickAt(pointIn(file(w), 0.5f, 0.5f)); }},
-                    {"open, then press outside", [=](Window& w)
-                     {
-                         clickAt(pointIn(file(w), 0.5f, 0.5f));
-                         clickAt(Vector2f(600, 500));
-                     }}};
+    script.steps = {
+        {"click File",
+         [=](Window& w)
+         {
+             clicked = 0;
+             for (const char* text : {"Open", "Save", "Quit"})
+                 file(w)
+                     .getPopupMenu()
+                     ->getChild(String("item") + text)
+                     ->subscribeEvent(MenuItem::EventClicked, [] { ++clicked; });
+             clickAt(pointIn(file(w), 0.5f, 0.5f));
+         }},
+        {"click Save", [=](Window& w)
+         { clickAt(pointIn(*file(w).getPopupMenu()->getChild("itemSave"), 0.5f, 0.5f)); }},
+        {"open again", [=](Window& w) { clickAt(pointIn(file(w), 0.5f, 0.5f)); }},
+        {"click File to close", [=](Window& w) { clickAt(pointIn(file(w), 0.5f, 0.5f)); }},
+        {"open, then press outside", [=](Window& w)
+         {
+             clickAt(pointIn(file(w), 0.5f, 0.5f));
+             clickAt(Vector2f(600, 500));
+         }}};
     script.observe = [=](const Window& w, Observation& seen)
     {
         MenuItem& f = file(const_cast<Window&>(w));
@@ -300,11 +309,12 @@ TEST(Parity, TabControl)
     };
     auto tab = [](Window& w, unsigned i) -> Window&
     { return *partOf(w, "__auto_TabPane__Buttons").getChildAtIdx(i); };
-    script.steps = {{"click the third tab", [=](Window& w) { clickAt(pointIn(tab(w, 2), 0.5f, 0.5f)); }},
-                    {"click the second tab", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
-                    {"click it again", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
-                    {"remove the selected page", [](Window& w)
-                     { static_cast<TabControl&>(w).removeTab("Sound"); }}};
+    script.steps = {
+        {"click the third tab", [=](Window& w) { clickAt(pointIn(tab(w, 2), 0.5f, 0.5f)); }},
+        {"click the second tab", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
+        {"click it again", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
+        {"remove the selected page",
+         [](Window& w) { static_cast<TabControl&>(w).removeTab("Sound"); }}};
     script.observe = [](const Window& w, Observation& seen)
     {
         const auto& tabs = static_cast<const TabControl&>(w);
@@ -324,26 +334,29 @@ TEST(Parity, ScrollablePane)
     script.setUp = [](Window& w)
     {
         Window* content = WindowManager::getSingleton().createWindow("DefaultWindow", "content");
-        content->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(500),
-                               cegui_absdim(800)));
+        content->setArea(
+            URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(500), cegui_absdim(800)));
         w.addChild(content);
     };
     auto pane = [](Window& w) -> ScrollablePane& { return static_cast<ScrollablePane&>(w); };
-    script.steps = {{"vertical increase arrow", [=](Window& w)
+    script.steps = {{"vertical increase arrow",
+                     [=](Window& w)
                      {
                          Window& bar = *pane(w).getVertScrollbar();
                          clickAt(pointIn(partOf(bar, "__auto_incbtn__"), 0.5f, 0.5f));
                      }},
-                    {"horizontal track", [=](Window& w)
-                     { clickAt(pointIn(*pane(w).getHorzScrollbar(), 0.8f, 0.5f)); }},
-                    {"wheel over the vertical thumb", [=](Window& w)
+                    {"horizontal track",
+                     [=](Window& w) { clickAt(pointIn(*pane(w).getHorzScrollbar(), 0.8f, 0.5f)); }},
+                    {"wheel over the vertical thumb",
+                     [=](Window& w)
                      {
                          Window& bar = *pane(w).getVertScrollbar();
                          const Vector2f at = pointIn(partOf(bar, "__auto_thumb__"), 0.5f, 0.5f);
                          wheel(at.d_x, at.d_y, -1);
                      }},
-                    {"content shrinks", [](Window& w)
-                     { w.getChild("content")->setSize(USize(cegui_absdim(50), cegui_absdim(50))); }}};
+                    {"content shrinks", [](Window& w) {
+                         w.getChild("content")->setSize(USize(cegui_absdim(50), cegui_absdim(50)));
+                     }}};
     script.observe = [](const Window& w, Observation& seen)
     {
         const auto& p = static_cast<const ScrollablePane&>(w);
@@ -368,16 +381,18 @@ TEST(Parity, FrameWindow)
     };
     auto frame = [](Window& w) -> FrameWindow& { return static_cast<FrameWindow&>(w); };
     auto title = [=](Window& w) { return pointIn(*frame(w).getTitlebar(), 0.4f, 0.5f); };
-    script.steps = {{"drag the title bar", [=](Window& w)
+    script.steps = {{"drag the title bar",
+                     [=](Window& w)
                      {
                          const Vector2f from = title(w);
                          dragFrom(from, Vector2f(from.d_x + 40, from.d_y + 30));
                      }},
-                    {"double click the title: roll up", [=](Window& w)
-                     { doubleClick(title(w).d_x, title(w).d_y); }},
-                    {"double click again: roll down", [=](Window& w)
-                     { doubleClick(title(w).d_x, title(w).d_y); }},
-                    {"size by the bottom-right corner", [](Window& w)
+                    {"double click the title: roll up",
+                     [=](Window& w) { doubleClick(title(w).d_x, title(w).d_y); }},
+                    {"double click again: roll down",
+                     [=](Window& w) { doubleClick(title(w).d_x, title(w).d_y); }},
+                    {"size by the bottom-right corner",
+                     [](Window& w)
                      {
                          const Rectf r = w.getUnclippedOuterRect().get();
                          dragFrom(Vector2f(r.right() - 2, r.bottom() - 2),

@@ -8,14 +8,14 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
-#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/ComboDropList.h>
+#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/MultiLineEditbox.h>
 #include <CEGUI/widgets/ScrollablePane.h>
-#include <CEGUI/widgets/ScrolledContainer.h>
 #include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/ScrolledContainer.h>
 #include <CEGUI/widgets/Slider.h>
 #include <functional>
 #include <gtest/gtest.h>
@@ -29,9 +29,9 @@ namespace
 struct Scrolling
 {
     Window* widget;
-    std::function<void()> reset;   //!< back to the middle of the range
-    std::function<float()> value;  //!< what the wheel moves
-    const Window* body = nullptr;  //!< where the bare widget is hit, when not the widget
+    std::function<void()> reset;  //!< back to the middle of the range
+    std::function<float()> value; //!< what the wheel moves
+    const Window* body = nullptr; //!< where the bare widget is hit, when not the widget
 };
 
 // One point on each window the pointer can reach inside `widget`: the widget's own body
