@@ -6,6 +6,7 @@
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/ListHeader.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/Scrollbar.h>
@@ -114,6 +115,46 @@ TEST_F(MultiColumnListTest, RemovingShiftsTheLaterSavedRowsAndBadIdentifiersThro
     EXPECT_THROW(list.setItem(stray.get(), 5, 0), InvalidRequestException);
     list.ShowRows(3, 1); // an empty range
     EXPECT_EQ(gridIds(list), (std::vector<uint>{0, 3}));
+}
+
+// A host holding the list as CEGUI's MultiColumnList (or CEGUI itself) changes the grid
+// through operations the extended list cannot override; its saved rows follow all the same.
+TEST_F(MultiColumnListTest, SavedRowsFollowChangesMadeThroughCeguisOwnInterface)
+{
+    MultiColumnListEx& list = exList(5);
+    MultiColumnList& plain = list;
+
+    // An item replaced the plain way (the old one auto-deleted) survives hiding and showing.
+    plain.setItem(cell("replaced 2"), 0, plain.getRowWithID(2));
+    EXPECT_EQ(list.getItemAtGridReference(MCLGridRef(2, 0))->getText(), "replaced 2");
+    list.HideRows(1, 3);
+    EXPECT_EQ(list.getItemAtGridReference(MCLGridRef(2, 0))->getText(), "replaced 2");
+    list.ShowRows(1, 3);
+    EXPECT_EQ(gridIds(list), (std::vector<uint>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(gridText(list, 2, 0), "replaced 2");
+
+    // A row added the plain way can be hidden and shown like the others.
+    plain.addRow(cell("added 5"), 0, 5);
+    EXPECT_NO_THROW(list.HideRow(5));
+    EXPECT_EQ(gridIds(list), (std::vector<uint>{0, 1, 2, 3, 4}));
+    list.ShowRow(5, 5);
+    EXPECT_EQ(gridText(list, 5, 0), "added 5");
+
+    // A row removed the plain way is gone from the saved rows too.
+    plain.removeRow(plain.getRowWithID(0));
+    EXPECT_THROW(list.HideRow(0), InvalidRequestException);
+    EXPECT_EQ(list.getItemAtGridReference(MCLGridRef(4, 1))->getText(), "size 4");
+
+    // Emptied the plain way with rows hidden: the hidden rows stay the list's, and go with it.
+    list.HideRow(3);
+    plain.setItem(cell("replaced 4"), 1, plain.getRowWithID(4));
+    plain.resetList();
+    EXPECT_EQ(list.getRowCount(), 0u);
+    list.ShowRow(3, 0);
+    EXPECT_EQ(gridText(list, 0, 0), "name 3");
+    moxietest::drawnBy(list);
+    WindowManager::getSingleton().destroyWindow(&list);
+    WindowManager::getSingleton().cleanDeadPool();
 }
 
 TEST_F(MultiColumnListTest, HeaderClicksDoNotSortTheExtendedList)

@@ -4,6 +4,7 @@
 #include <CEGUI/PropertyHelper.h>
 #include <CEGUI/widgets/ListHeader.h>
 #include <CEGUI/widgets/ListboxItem.h>
+#include <set>
 
 namespace CEGUI
 {
@@ -17,7 +18,7 @@ MultiColumnListEx::MultiColumnListEx(const String& type, const String& name)
 MultiColumnListEx::~MultiColumnListEx()
 {
     for (const auto& row : d_store)
-        if (!row->visible)
+        if (row && !row->visible)
             deleteOwned(*row);
 }
 
@@ -31,7 +32,7 @@ void MultiColumnListEx::initialiseComponents()
 
 MultiColumnListEx::SavedRow& MultiColumnListEx::saved(uint rowId) const
 {
-    if (rowId >= d_store.size())
+    if (rowId >= d_store.size() || !d_store[rowId])
         throw InvalidRequestException(
             "No saved row with the identifier " + PropertyHelper<uint>::toString(rowId) + " in '" +
             getNamePath() + "' (it holds " +
@@ -43,7 +44,6 @@ void MultiColumnListEx::save(uint gridIndex)
 {
     const ListRow& grid = d_grid[gridIndex];
     auto row = std::make_shared<SavedRow>();
-    row->items.assign(grid.d_items.begin(), grid.d_items.end());
     row->sortColumn = grid.d_sortColumn;
     row->rowId = grid.d_rowID;
     d_store.push_back(std::move(row));
@@ -61,7 +61,9 @@ void MultiColumnListEx::deleteOwned(SavedRow& row)
 
 uint MultiColumnListEx::addRow(uint rowId)
 {
+    d_changingGrid = true;
     const uint index = MultiColumnList::addRow(rowId);
+    d_changingGrid = false;
     if (!d_suppress)
         save(getRowWithID(rowId));
     return index;
@@ -77,7 +79,9 @@ uint MultiColumnListEx::addRow(ListboxItem* item, uint columnId, uint rowId)
 
 uint MultiColumnListEx::insertRow(uint rowIndex, uint rowId)
 {
+    d_changingGrid = true;
     const uint index = MultiColumnList::insertRow(rowIndex, rowId);
+    d_changingGrid = false;
     if (!d_suppress)
         save(index);
     return index;
@@ -96,7 +100,13 @@ void MultiColumnListEx::setItem(ListboxItem* item, uint columnId, uint rowIndex)
     SavedRow& row = saved(rowIndex);
     const uint column = getColumnWithID(columnId); // throws for an unknown column
     if (row.visible)
+    {
+        // The grid holds a shown row's items; CEGUI deletes the one replaced.
+        d_changingGrid = true;
         MultiColumnList::setItem(item, columnId, getRowWithID(row.rowId));
+        d_changingGrid = false;
+        return;
+    }
     if (d_suppress)
         return;
     if (row.items.size() <= column)
@@ -118,7 +128,10 @@ void MultiColumnListEx::setItem(ListboxItem* item, const MCLGridRef& position)
 ListboxItem* MultiColumnListEx::getItemAtGridReference(const MCLGridRef& gridRef) const
 {
     const SavedRow& row = saved(gridRef.row);
-    if (gridRef.column >= row.items.size())
+    if (row.visible && gridRef.column < getColumnCount())
+        return MultiColumnList::getItemAtGridReference(
+            MCLGridRef(getRowWithID(row.rowId), gridRef.column));
+    if (row.visible || gridRef.column >= row.items.size())
         throw InvalidRequestException(
             "No column " + PropertyHelper<uint>::toString(gridRef.column) + " in the saved row " +
             PropertyHelper<uint>::toString(gridRef.row) + ".");
@@ -128,10 +141,12 @@ ListboxItem* MultiColumnListEx::getItemAtGridReference(const MCLGridRef& gridRef
 void MultiColumnListEx::resetList()
 {
     for (const auto& row : d_store)
-        if (!row->visible)
+        if (row && !row->visible)
             deleteOwned(*row);
     d_store.clear();
+    d_changingGrid = true;
     MultiColumnList::resetList();
+    d_changingGrid = false;
 }
 
 void MultiColumnListEx::HideRow(uint rowId)
@@ -139,8 +154,10 @@ void MultiColumnListEx::HideRow(uint rowId)
     SavedRow& row = saved(rowId);
     if (!row.visible)
         return;
-    // The store keeps the items: CEGUI must not delete them with the grid row.
-    for (ListboxItem*& item : d_grid[getRowWithID(rowId)].d_items)
+    // The items move to the store: CEGUI must not delete them with the grid row.
+    std::vector<ListboxItem*>& items = d_grid[getRowWithID(row.rowId)].d_items;
+    row.items.assign(items.begin(), items.end());
+    for (ListboxItem*& item : items)
         item = nullptr;
     d_suppress = true;
     RemoveRow(rowId);
@@ -172,9 +189,12 @@ void MultiColumnListEx::ShowRow(uint rowId, uint rowIndex)
     }
     grid.d_sortColumn = row.sortColumn;
     grid.d_rowID = row.rowId;
+    row.items.clear(); // the grid's now
     row.visible = true;
     WindowEventArgs args(this);
+    d_changingGrid = true;
     onListContentsChanged(args);
+    d_changingGrid = false;
 }
 
 void MultiColumnListEx::ShowRows(uint first, uint last)
@@ -204,9 +224,50 @@ void MultiColumnListEx::RemoveRow(uint rowId)
         d_store.erase(d_store.begin() + rowId);
     }
     if (visible)
+    {
+        d_changingGrid = true;
         removeRow(getRowWithID(rowId));
+        d_changingGrid = false;
+    }
     else if (row)
         deleteOwned(*row);
+}
+
+void MultiColumnListEx::onListContentsChanged(WindowEventArgs& e)
+{
+    if (!d_changingGrid)
+        catchUpWithGrid();
+    RedrawnWhenUncovered<MultiColumnList>::onListContentsChanged(e);
+}
+
+void MultiColumnListEx::catchUpWithGrid()
+{
+    std::set<uint> inGrid;
+    for (const ListRow& grid : d_grid)
+        inGrid.insert(grid.d_rowID);
+    std::set<uint> saved;
+    for (auto& row : d_store)
+        if (row && row->visible && !inGrid.count(row->rowId))
+            row.reset(); // removed through CEGUI's own operations; CEGUI deleted its items
+        else if (row)
+            saved.insert(row->rowId);
+    for (uint index = 0; index < d_grid.size(); ++index)
+    {
+        const uint id = d_grid[index].d_rowID;
+        if (saved.count(id))
+            continue;
+        // Added through CEGUI's own operations: saved where its identifier points.
+        if (id >= d_store.size())
+            d_store.resize(static_cast<std::size_t>(id) + 1);
+        const std::size_t slot = d_store[id] ? d_store.size() : id;
+        save(index);
+        if (slot != d_store.size() - 1)
+        {
+            d_store[slot] = d_store.back();
+            d_store.pop_back();
+        }
+        saved.insert(id);
+    }
 }
 
 Sizef MultiColumnListEx::GetAbsoluteHeaderSize() const

@@ -3,8 +3,10 @@
 // indexed by row identifier: a host gives rows the identifiers 0, 1, 2, ... in the order it
 // adds them. An identifier outside the store throws CEGUI's InvalidRequestException.
 //
-// CEGUI 0.8's row operations are not virtual: the ones here take effect when the list is
-// used as a MultiColumnListEx.
+// CEGUI 0.8's row operations are not virtual. A host (or CEGUI) changing the grid through
+// MultiColumnList's own operations is caught up with at the contents-changed notification:
+// rows added there get saved rows, rows removed there lose theirs. A shown row's items live in
+// the grid only, so nothing CEGUI deletes is ever held here.
 #pragma once
 
 #include "draw/RedrawnWhenUncovered.h"
@@ -22,7 +24,8 @@ class MultiColumnListEx : public RedrawnWhenUncovered<MultiColumnList>
 public:
     struct SavedRow
     {
-        std::vector<ListboxItem*> items; //!< one per column, as the grid row holds them
+        //! A hidden row's items, one per column, owned here; empty while the row is shown.
+        std::vector<ListboxItem*> items;
         uint sortColumn = 0;
         uint rowId = 0;
         bool visible = true;
@@ -58,18 +61,26 @@ public:
     float GetTotalRowsHeight() const { return getTotalRowsHeight(); }
     float GetAbsoluteRowHeight() const;
 
+    //! Indexed by identifier; null where no row has that identifier any more.
     const std::vector<std::shared_ptr<SavedRow>>& getSavedRows() const { return d_store; }
+
+protected:
+    void onListContentsChanged(WindowEventArgs& e) override;
 
 private:
     void removeRow(uint rowIndex) { MultiColumnList::removeRow(rowIndex); }
     uint GetIndexInsertRow(uint rowId) const;
     SavedRow& saved(uint rowId) const;
     void save(uint gridIndex);
+    //! Brings the store up to date with a grid changed through CEGUI's own operations.
+    void catchUpWithGrid();
     //! Items of hidden rows belong to the store; the grid's to CEGUI.
     static void deleteOwned(SavedRow& row);
 
     std::vector<std::shared_ptr<SavedRow>> d_store;
     bool d_suppress = false;
+    //! Set while this class changes the grid itself, which keeps the store as it goes.
+    bool d_changingGrid = false;
 };
 
 } // namespace MoxieLook

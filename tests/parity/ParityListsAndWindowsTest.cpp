@@ -314,7 +314,12 @@ TEST(Parity, TabControl)
         {"click the second tab", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
         {"click it again", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
         {"remove the selected page",
-         [](Window& w) { static_cast<TabControl&>(w).removeTab("Sound"); }}};
+         [](Window& w)
+         {
+             Window* page = static_cast<TabControl&>(w).getTabContents("Sound");
+             static_cast<TabControl&>(w).removeTab("Sound");
+             WindowManager::getSingleton().destroyWindow(page); // the host's to destroy
+         }}};
     script.observe = [](const Window& w, Observation& seen)
     {
         const auto& tabs = static_cast<const TabControl&>(w);
