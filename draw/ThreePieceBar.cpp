@@ -28,6 +28,32 @@ float ThreePieceBar::capsWidth() const
     return widthOf(left) + widthOf(right);
 }
 
+namespace
+{
+// Only the tiles that meet `cut`, counted by index: a float position stepped by a tile's
+// width stops moving past 2^24 pixels.
+void tile(GeometryBuffer& buffer, const Image& image, const Rectf& area, const Rectf& cut,
+          const ColourRect& colours)
+{
+    const float width = widthOf(&image);
+    if (!(cut.getWidth() > 0))
+        return;
+    // So far out that floats hold a tile's edges only roughly apart: one stretched piece
+    // covers what can be seen without gaps.
+    const float far = std::max(std::fabs(cut.left()), std::fabs(cut.right()));
+    if (std::nextafter(far, INFINITY) - far > width / 8)
+        return image.render(buffer, cut, &cut, colours);
+    const double origin = area.left();
+    const double first = std::floor((cut.left() - origin) / width);
+    const double end = std::ceil((cut.right() - origin) / width);
+    for (double i = std::max(0.0, first); i < end; ++i)
+    {
+        const float x = static_cast<float>(origin + i * width);
+        image.render(buffer, Rectf(x, area.top(), x + width, area.bottom()), &cut, colours);
+    }
+}
+} // namespace
+
 void ThreePieceBar::draw(GeometryBuffer& buffer, const Rectf& area, const ColourRect& colours,
                          const Rectf* clip, bool tileMiddle) const
 {
@@ -49,23 +75,11 @@ void ThreePieceBar::draw(GeometryBuffer& buffer, const Rectf& area, const Colour
     const Rectf middleArea(area.left() + leftWidth, top, area.right() - rightWidth, bottom);
     if (middle && middleArea.getWidth() > 0)
     {
-        const float tile = widthOf(middle);
-        if (!tileMiddle || tile <= 0)
+        if (!tileMiddle || widthOf(middle) <= 0)
             middle->render(buffer, middleArea, clip, colours);
         else
-        {
-            // Only the tiles that meet the clip, counted from the middle's left edge in
-            // doubles: a float position stops moving past 2^24 pixels.
-            const Rectf cut = clip ? middleArea.getIntersection(*clip) : middleArea;
-            const double origin = middleArea.left();
-            const double first = std::floor((cut.left() - origin) / tile);
-            const double end = std::ceil((cut.right() - origin) / tile);
-            for (double i = std::max(0.0, first); i < end; ++i)
-            {
-                const float x = static_cast<float>(origin + i * tile);
-                middle->render(buffer, Rectf(x, top, x + tile, bottom), &cut, colours);
-            }
-        }
+            tile(buffer, *middle, middleArea, clip ? middleArea.getIntersection(*clip) : middleArea,
+                 colours);
     }
     if (right && rightWidth > 0)
         right->render(buffer, Rectf(area.right() - rightWidth, top, area.right(), bottom), clip,

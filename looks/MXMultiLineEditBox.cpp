@@ -36,9 +36,9 @@ void MXMultiLineEditBox::initialiseComponents()
             addChild(bar);
         }
     RedrawnWhenUncovered<MultiLineEditbox>::initialiseComponents();
-    // CEGUI's box always ends in a line break, which it adds on every text change after
-    // the first; its Falagard renderer adds the first. Without it an empty box has no line
-    // and CEGUI's hit test reads past the end of its line list.
+    // CEGUI's box always ends in a line break: the widget adds it on every text change and
+    // its Falagard renderer to a text never set. Without it an empty box has no line and
+    // CEGUI's hit test reads past the end of its line list.
     if (getText().empty() || getText()[getText().length() - 1] != '\n')
         setText(getText() + "\n");
     // CEGUI shows and hides the bars after the layout: each one's length depends on the other.

@@ -81,18 +81,18 @@ void MXScrollbarBase::initialiseComponents()
     if (!isChild(ThumbName))
         addChild(createThumb(ThumbName));
     Scrollbar::initialiseComponents();
-    for (const String* part : {&DecreaseButtonName, &IncreaseButtonName, &ThumbName})
-        forwardWheel(*getChild(*part), *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
+    const String* parts[] = {&DecreaseButtonName, &IncreaseButtonName, &ThumbName};
+    for (std::size_t i = 0; i < d_partWheels.size(); ++i)
+        d_partWheels[i] = forwardWheel(*getChild(*parts[i]), *this,
+                                       [this](MouseEventArgs& e) { onMouseWheel(e); });
 }
 
 void MXScrollbarBase::onMouseWheel(MouseEventArgs& e)
 {
-    // An owner with a wheel rule of its own (a tree, a drop-down list) takes the turn by
-    // handling the event; otherwise one step a notch, as CEGUI's bar scrolls.
+    if (!d_wheelOwner)
+        return RedrawnWhenUncovered<Scrollbar>::onMouseWheel(e);
     fireEvent(EventMouseWheel, e, Window::EventNamespace);
-    if (e.handled)
-        return;
-    setScrollPosition(getScrollPosition() + getStepSize() * -e.wheelChange);
+    d_wheelOwner(e);
     ++e.handled;
 }
 

@@ -10,8 +10,10 @@
 #include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 #include "looks/LookRendererFactory.h"
+#include "widgets/WheelForwarding.h"
 
 #include <CEGUI/widgets/Scrollbar.h>
+#include <array>
 
 namespace CEGUI
 {
@@ -20,7 +22,7 @@ class Thumb;
 
 namespace MoxieLook
 {
-class MXScrollbarBase : public RedrawnWhenUncovered<Scrollbar>
+class MXScrollbarBase : public RedrawnWhenUncovered<Scrollbar>, public WheelGiver
 {
 public:
     static constexpr char ImagesetName[] = "MoxieLook";
@@ -69,6 +71,7 @@ protected:
 
     void onSized(ElementEventArgs& e) override;
     void onMouseWheel(MouseEventArgs& e) override;
+    void setWheelOwner(WheelHandler handler) override { d_wheelOwner = std::move(handler); }
     void storeFrameSizes();
 
     NinePieceFrame d_frame;
@@ -76,6 +79,9 @@ protected:
     EdgeInsets d_frameSizes;
 
 private:
+    //! Arrows and thumb; a scoped connection disconnects when it is copied away, so no vector.
+    std::array<Event::ScopedConnection, 3> d_partWheels;
+    WheelHandler d_wheelOwner;
     PushButton* createArrowButton(const char* type, const String& name, const char* image) const;
     float along(const Vector2f& v) const { return d_orientation.vertical ? v.d_y : v.d_x; }
     float along(const Sizef& s) const { return d_orientation.vertical ? s.d_height : s.d_width; }

@@ -39,7 +39,7 @@ void MXSlider::initialiseComponents()
     if (!isChild(ThumbName))
         addChild(createThumb(ThumbName));
     Slider::initialiseComponents();
-    forwardWheel(*getThumb(), *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
+    d_thumbWheel = forwardWheel(*getThumb(), *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
 }
 
 Thumb* MXSlider::createThumb(const String& name) const

@@ -54,6 +54,7 @@ protected:
     void populateGeometryBuffer() override;
 
 private:
+    Event::ScopedConnection d_thumbWheel;
     float d_tickFrequency = DefaultTickFrequency;
     const Image* d_trackLeft;
     const Image* d_trackMiddle;

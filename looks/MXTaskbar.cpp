@@ -74,8 +74,7 @@ void MXTaskbar::populateGeometryBuffer()
     if (!hasVisibleArea(*this))
         return;
     // Tiles only where the bar can be seen: a bar far wider than the display stays cheap.
-    Rectf visible = getOuterRectClipper();
-    visible.offset(getUnclippedOuterRect().get().d_min * -1.0f);
+    const Rectf visible = seenForDrawing();
     d_bar.draw(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()),
                withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()), &visible, true);
 }

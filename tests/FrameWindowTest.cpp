@@ -292,8 +292,13 @@ TEST_F(FrameWindowTest, TitleButtonsTakeClicksAfterTheTitleBarWasUsed)
              }},
             {"double click (roll up)",
              [&] { moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
-            {"double click (roll down)",
-             [&] { moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
+            {"double click twice (roll up and back)",
+             [&]
+             {
+                 moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y);
+                 moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y);
+                 EXPECT_FALSE(window->isRolledup());
+             }},
         };
         const std::vector<std::pair<const char*, Window*>> buttons = {
             {"roll-up", window->getTitleizeButton()},

@@ -6,6 +6,8 @@
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/WindowManager.h>
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace CEGUI;
@@ -194,20 +196,39 @@ TEST_F(TaskbarTest, AWindowDestroyedTakesItsButtonAlong)
     EXPECT_TRUE(windows[0]->isActive());
 }
 
-// A bar far wider than the display tiles only what can be seen, and covers all of that.
-TEST_F(TaskbarTest, AHugeBarDrawsOnlyTheTilesInView)
+// A bar far wider than the display draws only what can be seen, and covers all of it on
+// screen without gaps, wherever it lies.
+TEST_F(TaskbarTest, AHugeBarDrawsOnlyWhatCanBeSeenAndAllOfIt)
 {
     const float height = bar->getPixelSize().d_height;
     const auto normal = drawnBy(*bar);
-    bar->setSize(USize(cegui_absdim(2e9f), cegui_absdim(height)));
-    const auto huge = drawnBy(*bar);
-    EXPECT_LE(huge.size(), normal.size() + 2);
-    float covered = 0;
-    for (const auto& quad : huge)
-        covered = std::max(covered, quad.rect.right());
-    EXPECT_GE(covered, 800.0f); // the whole display width is tiled
-    bar->setPosition(UVector2(cegui_absdim(-1e9f), bar->getPosition().d_y));
-    const auto shifted = drawnBy(*bar);
-    EXPECT_LE(shifted.size(), normal.size() + 2);
-    EXPECT_FALSE(shifted.empty());
+    // Screen spans of the quads drawn, merged; the bar on the display must be one span, to
+    // within what
+    // a float holds at the bar's own position (window-local geometry is in floats).
+    auto coversTheDisplay = [&](const std::vector<moxietest::DrawnQuad>& quads)
+    {
+        const float origin = bar->getUnclippedOuterRect().get().left();
+        const double slack =
+            std::max(0.5f, std::nextafter(std::fabs(origin), INFINITY) - std::fabs(origin));
+        std::vector<std::pair<double, double>> spans;
+        for (const auto& quad : quads)
+            spans.emplace_back(double(origin) + quad.rect.left(),
+                               double(origin) + quad.rect.right());
+        std::sort(spans.begin(), spans.end());
+        double reached = 0;
+        for (const auto& [from, to] : spans)
+            if (from <= reached + slack)
+                reached = std::max(reached, to);
+        const double end = std::min(800.0, double(origin) + 2e9);
+        return reached >= end - slack;
+    };
+    EXPECT_TRUE(coversTheDisplay(normal));
+    for (const float left : {0.0f, -1e9f, -2e9f + 700})
+    {
+        bar->setArea(URect(cegui_absdim(left), cegui_absdim(600 - height),
+                           cegui_absdim(left + 2e9f), cegui_absdim(600)));
+        const auto huge = drawnBy(*bar);
+        EXPECT_LE(huge.size(), normal.size() + 2) << left;
+        EXPECT_TRUE(coversTheDisplay(huge)) << left;
+    }
 }

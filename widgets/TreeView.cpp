@@ -409,7 +409,7 @@ void TreeView::initialiseComponents()
     d_pane->subscribeEvent(ScrollablePane::EventContentPaneScrolled,
                            Event::Subscriber(&TreeView::Update, this));
     for (Scrollbar* bar : {d_pane->getVertScrollbar(), d_pane->getHorzScrollbar()})
-        forwardWheel(*bar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
+        giveWheelTo(*bar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
 
     for (const String* event :
          {&EventLeafItemClicked, &EventLeafItemDoubleClicked, &EventTitleItemClicked,

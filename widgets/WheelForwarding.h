@@ -1,5 +1,6 @@
 // A widget scrolls by one rule wherever on it the wheel turns: a part (an arrow button, a
-// thumb, a scroll bar) hands the turn to its owner's wheel handler instead of keeping it.
+// thumb) hands the turn to its owner's wheel handler instead of keeping it, and a scroll bar
+// whose owner has a rule of its own (a tree, a drop-down list) gives its turns to the owner.
 #pragma once
 
 #include <CEGUI/InputEvent.h>
@@ -10,8 +11,10 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-inline Event::Connection forwardWheel(Window& part, Window& owner,
-                                      std::function<void(MouseEventArgs&)> ownerHandler)
+using WheelHandler = std::function<void(MouseEventArgs&)>;
+
+//! Subscribes `part` so that its wheel turns reach `ownerHandler` as turns over `owner`.
+inline Event::Connection forwardWheel(Window& part, Window& owner, WheelHandler ownerHandler)
 {
     return part.subscribeEvent(Window::EventMouseWheel,
                                [&owner, handler = std::move(ownerHandler)](const EventArgs& args)
@@ -22,6 +25,28 @@ inline Event::Connection forwardWheel(Window& part, Window& owner,
                                    handler(turn);
                                    return true; // taken: the part neither scrolls nor passes it on
                                });
+}
+
+//! A scroll bar that can give its wheel turns to an owner instead of scrolling by its step.
+class WheelGiver
+{
+public:
+    virtual void setWheelOwner(WheelHandler handler) = 0;
+
+protected:
+    ~WheelGiver() = default;
+};
+
+//! Gives `bar`'s wheel turns to the owner when the bar can; other bars keep CEGUI's rule.
+inline void giveWheelTo(Window& bar, Window& owner, const WheelHandler& ownerHandler)
+{
+    if (auto* giver = dynamic_cast<WheelGiver*>(&bar))
+        giver->setWheelOwner(
+            [&owner, ownerHandler](MouseEventArgs& e)
+            {
+                e.window = &owner;
+                ownerHandler(e);
+            });
 }
 
 } // namespace MoxieLook

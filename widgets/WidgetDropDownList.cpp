@@ -27,7 +27,7 @@ void WidgetDropDownList::initialiseComponents()
     addChild(d_scrollbar);
     d_scrollbar->subscribeEvent(Scrollbar::EventScrollPositionChanged,
                                 Event::Subscriber(&WidgetDropDownList::OnScrollBarMoved, this));
-    forwardWheel(*d_scrollbar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
+    giveWheelTo(*d_scrollbar, *this, [this](MouseEventArgs& e) { onMouseWheel(e); });
     LayoutContent();
 }
 

@@ -35,6 +35,8 @@ void WidgetDropDownListbox::initialiseComponents()
                    Event::Subscriber(&WidgetDropDownListbox::OnDeactivated, this));
     d_list->subscribeEvent(EventMouseClick,
                            Event::Subscriber(&WidgetDropDownListbox::OnListClicked, this));
+    d_list->subscribeEvent(EventSized,
+                           Event::Subscriber(&WidgetDropDownListbox::OnListSized, this));
     placeParts();
 }
 
@@ -74,6 +76,14 @@ const WidgetDropDownList::Item& WidgetDropDownListbox::GetSelectedItem() const
 {
     // -1 sign-extends far past any list.
     return d_list->GetItem(static_cast<unsigned>(static_cast<int>(d_selected)));
+}
+
+bool WidgetDropDownListbox::OnListSized(const EventArgs&)
+{
+    // Rows or the font changed the list's height: above the box it must still end there.
+    if (d_list->isVisible())
+        placeList();
+    return true;
 }
 
 void WidgetDropDownListbox::ShowDropList()

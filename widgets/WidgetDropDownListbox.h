@@ -63,6 +63,7 @@ private:
     bool OnClick(const EventArgs& args);
     bool OnDeactivated(const EventArgs& args);
     bool OnListClicked(const EventArgs& args);
+    bool OnListSized(const EventArgs& args);
     void placeParts();
     void placeList();
 

@@ -282,11 +282,20 @@ TEST(Parity, SliderAndScrollbars)
                  const Vector2f at = along(w, 0.8f);
                  wheel(at.d_x, at.d_y, 1);
              }},
+            {"wheel over the increase arrow",
+             [](Window& w)
+             {
+                 const Vector2f at = pointIn(partOf(w, "__auto_incbtn__"), 0.5f, 0.5f);
+                 wheel(at.d_x, at.d_y, -1);
+             }},
             {"drag the thumb far", [along](Window& w)
              { dragFrom(pointIn(partOf(w, "__auto_thumb__"), 0.5f, 0.5f), along(w, 2.0f)); }}};
         bar.observe = [](const Window& w, Observation& seen)
         { seen.set("position", static_cast<const Scrollbar&>(w).getScrollPosition()); };
         bar.events = {Scrollbar::EventScrollPositionChanged};
+        // TaharezLook's arrow buttons keep the wheel and do nothing; ours scroll the bar.
+        bar.differences = {"wheel over the increase arrow/position",
+                           "wheel over the increase arrow/event ScrollPositionChanged"};
         expectSameBehaviour(bar);
     }
 }

@@ -313,8 +313,7 @@ TEST(Parity, TabControl)
         {"click the third tab", [=](Window& w) { clickAt(pointIn(tab(w, 2), 0.5f, 0.5f)); }},
         {"click the second tab", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
         {"click it again", [=](Window& w) { clickAt(pointIn(tab(w, 1), 0.5f, 0.5f)); }},
-        {"remove the selected page",
-         [](Window& w)
+        {"remove the selected page", [](Window& w)
          {
              Window* page = static_cast<TabControl&>(w).getTabContents("Sound");
              static_cast<TabControl&>(w).removeTab("Sound");

@@ -139,8 +139,8 @@ void doubleClick(float x, float y)
 {
     CEGUI::GUIContext& gui = context();
     const float timeout = gui.getMouseButtonMultiClickTimeout();
+    click(x, y); // a first press of its own, never joined to an earlier one
     gui.setMouseButtonMultiClickTimeout(10);
-    click(x, y);
     pointerTo(x, y);
     gui.injectMouseButtonDown(CEGUI::LeftButton);
     gui.injectMouseButtonUp(CEGUI::LeftButton);
