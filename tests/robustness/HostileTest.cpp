@@ -15,9 +15,11 @@ using namespace CEGUI;
 
 namespace
 {
-// Runs `action`; true when it threw what the module may throw.
+// Runs `action` on `property`; true when it threw what the module may throw: a CEGUI
+// exception, or for a grid size too short to read the string library's out-of-range error,
+// as the layout rules have it. Anything else fails the test.
 template <typename Action>
-bool refused(Action action)
+bool refused(const String& property, Action action)
 {
     try
     {
@@ -28,8 +30,14 @@ bool refused(Action action)
     {
         return true;
     }
-    catch (const std::out_of_range&)
+    catch (const std::out_of_range& error)
     {
+        EXPECT_EQ(property, "GridSize") << "std::out_of_range: " << error.what();
+        return true;
+    }
+    catch (const std::exception& error)
+    {
+        ADD_FAILURE() << property << ": a standard exception escaped: " << error.what();
         return true;
     }
 }
@@ -68,8 +76,8 @@ TEST(Robustness, EveryPropertyOfEveryTypeTakesHostileTexts)
                 SCOPED_TRACE(std::string(type.c_str()) + " " + property.c_str() + " = \"" +
                              text.substr(0, 40) + "\"");
                 ++sets;
-                refusals += refused([&] { window->setProperty(property, String(text)); });
-                refused([&] { (void)window->getProperty(property); });
+                refusals += refused(property, [&] { window->setProperty(property, String(text)); });
+                refused(property, [&] { (void)window->getProperty(property); });
                 moxietest::renderFrame();
             }
         }
@@ -94,8 +102,8 @@ TEST(Robustness, HostileTextsPileUpOnOneWindowPerType)
                 fprintf(stderr, "%s %s\n", type.c_str(), property.c_str());
             for (const std::string& text : moxietest::hostileTexts())
             {
-                refused([&] { window->setProperty(property, String(text)); });
-                refused([&] { (void)window->getProperty(property); });
+                refused(property, [&] { window->setProperty(property, String(text)); });
+                refused(property, [&] { (void)window->getProperty(property); });
                 moxietest::renderFrame();
             }
         }
