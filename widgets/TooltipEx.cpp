@@ -5,6 +5,7 @@
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/PropertyHelper.h>
+#include <CEGUI/WindowManager.h>
 #include <algorithm>
 #include <vector>
 
@@ -287,6 +288,30 @@ void TextColourProperty::set(PropertyReceiver* receiver, const String& value)
     static_cast<TooltipEx*>(receiver)->setTextColour(PropertyHelper<Colour>::fromString(value));
 }
 } // namespace TooltipExProperties
+
+void TooltipEx::setParent(Element* parent)
+{
+    RedrawnWhenUncovered<Tooltip>::setParent(parent);
+    d_parentDestruction.disconnect();
+    if (auto* window = dynamic_cast<Window*>(parent))
+        d_parentDestruction = window->subscribeEvent(EventDestructionStarted, [this]
+                                                     { setDestroyedByParent(!servesAWindow()); });
+}
+
+bool TooltipEx::servesAWindow() const
+{
+    const Window* root = getGUIContext().getRootWindow();
+    if (root && getGUIContext().getDefaultTooltipObject() == this)
+        return true;
+    auto windows = WindowManager::getSingleton().getIterator();
+    for (; !windows.isAtEnd(); ++windows)
+    {
+        const Window* window = windows.getCurrentValue();
+        if (!window->isUsingDefaultTooltip() && window->getTooltip() == this)
+            return true;
+    }
+    return false;
+}
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -59,8 +59,12 @@ protected:
     void onTooltipActive(WindowEventArgs& e) override;
     //! CEGUI 0.8 leaves hiding to skin animations; this tooltip hides itself.
     void onTooltipInactive(WindowEventArgs& e) override;
+    //! CEGUI keeps a tooltip alive when its parent goes, for the windows it serves; one that
+    //! serves none (a plain child in a layout) goes with its parent instead of lingering.
+    void setParent(Element* parent) override;
 
 private:
+    bool servesAWindow() const;
     //! The text's words as widths in a font, measured once per text and font.
     struct Words
     {
@@ -78,6 +82,7 @@ private:
     mutable Words d_words;
 
     Colour d_textColour{0.0f, 0.0f, 0.0f, 0.0f};
+    Event::ScopedConnection d_parentDestruction;
     bool d_fadingIn = false;
     bool d_fadingOut = false;
 };

@@ -137,7 +137,8 @@ TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
         "not xml at all",
     };
     moxietest::freshSheet();
-    WindowManager::getSingleton().cleanDeadPool();
+    // Windows earlier tests set not to be destroyed by their parent outlive their sheets.
+    destroyDetachedWindows();
     const std::size_t before = windowCount();
     for (const std::string& text : layouts)
     {
