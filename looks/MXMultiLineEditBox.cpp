@@ -83,6 +83,11 @@ Rectf MXMultiLineEditBox::textRenderArea() const
     area.d_max.d_x -= EditboxImagery::TextPadding;
     area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
     area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
+    // CEGUI wraps a line into an endless list of empty ones when not even one character
+    // fits the width; narrower than a line is high (wider than any glyph), it wraps nothing.
+    const Font* font = getFont();
+    if (font && area.getWidth() < font->getLineSpacing())
+        area.d_max.d_x = area.d_min.d_x;
     return area;
 }
 

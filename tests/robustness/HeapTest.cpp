@@ -10,29 +10,12 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 #include <gtest/gtest.h>
-#include <malloc.h>
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#include <sanitizer/allocator_interface.h>
-#define MOXIE_ASAN_HEAP 1
-#endif
-#endif
 
 using namespace CEGUI;
 using moxietest::context;
 
 namespace
 {
-double heapInUse()
-{
-#ifdef MOXIE_ASAN_HEAP
-    return static_cast<double>(__sanitizer_get_current_allocated_bytes());
-#else
-    return static_cast<double>(mallinfo2().uordblks);
-#endif
-}
-
 Window* childOf(Window& parent, const String& type)
 {
     try
@@ -115,10 +98,10 @@ TEST(Robustness, EveryTypeGivesBackItsMemoryWhenDestroyed)
         // First uses fill CEGUI's caches (glyphs, strings): not counted.
         for (int cycle = 0; cycle < warmUp; ++cycle)
             liveOnce(type, cycle);
-        const double before = heapInUse();
+        const double before = moxietest::heapInUse();
         for (int cycle = warmUp; cycle < warmUp + measured; ++cycle)
             liveOnce(type, cycle);
-        const double perCycle = (heapInUse() - before) / measured;
+        const double perCycle = (moxietest::heapInUse() - before) / measured;
         EXPECT_LT(perCycle, 32.0) << type << " keeps " << perCycle << " bytes a cycle";
     }
 }

@@ -4,6 +4,8 @@
 #include "support/Gui.h"
 
 #include <CEGUI/Exceptions.h>
+#include <CEGUI/GeometryBuffer.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 #include <cstdio>
@@ -110,18 +112,34 @@ TEST(Robustness, HostileTextsPileUpOnOneWindowPerType)
     }
 }
 
+// Vertices a window and everything in it hold now.
+std::size_t verticesIn(const Window& window)
+{
+    std::size_t count = const_cast<Window&>(window).getGeometryBuffer().getVertexCount();
+    for (std::size_t i = 0; i < window.getChildCount(); ++i)
+        count += verticesIn(*window.getChildAtIdx(i));
+    return count;
+}
+
+// Whatever its size, a window draws what the display can show: its geometry and the memory
+// it holds stay within a ceiling a display's worth of drawing never reaches.
 TEST(Robustness, EveryTypeDrawsAtDegenerateAndHugeSizes)
 {
-    const Sizef sizes[] = {{0, 0}, {1, 1}, {100000, 100000}, {-50, -20}};
+    const Sizef sizes[] = {{0, 0},     {1, 1},     {100000, 100000}, {-50, -20},
+                           {1e9f, 20}, {20, 1e9f}, {1e9f, 1e9f},     {2e9f, 20}};
     for (const String& type : moxietest::moduleTypeNames())
     {
         moxietest::freshSheet();
         Window* window = moxietest::makeSample(type, 10, 10, 100, 40);
         for (const Sizef& size : sizes)
         {
-            SCOPED_TRACE(std::string(type.c_str()));
+            SCOPED_TRACE(std::string(type.c_str()) + " at " +
+                         PropertyHelper<Sizef>::toString(size).c_str());
+            const double before = moxietest::heapInUse();
             window->setSize(USize(cegui_absdim(size.d_width), cegui_absdim(size.d_height)));
             moxietest::renderFrame();
+            EXPECT_LT(verticesIn(*window), 200000u);
+            EXPECT_LT(moxietest::heapInUse() - before, 64.0 * 1024 * 1024);
         }
     }
 }

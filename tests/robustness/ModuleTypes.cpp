@@ -8,7 +8,15 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowManager.h>
+#include <malloc.h>
 #include <set>
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#include <sanitizer/allocator_interface.h>
+#define MOXIE_ASAN_HEAP 1
+#endif
+#endif
 
 namespace moxietest
 {
@@ -79,6 +87,15 @@ CEGUI::Window* makeSample(const CEGUI::String& type, float x, float y, float w, 
 void renderFrame()
 {
     CEGUI::System::getSingleton().renderAllGUIContexts();
+}
+
+double heapInUse()
+{
+#ifdef MOXIE_ASAN_HEAP
+    return static_cast<double>(__sanitizer_get_current_allocated_bytes());
+#else
+    return static_cast<double>(mallinfo2().uordblks);
+#endif
 }
 
 } // namespace moxietest

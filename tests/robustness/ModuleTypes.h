@@ -31,4 +31,7 @@ CEGUI::Window* makeSample(const CEGUI::String& type, float x, float y, float w, 
 //! Renders every context once.
 void renderFrame();
 
+//! Bytes of heap in use now (the sanitizer's allocator's count in sanitized builds).
+double heapInUse();
+
 } // namespace moxietest
