@@ -300,11 +300,12 @@ namespace NodeItemProperties
 const char* const ChildAlignmentProperty::AlignmentValues[5] = {"Top", "Bottom", "Centre",
                                                                 "Inherit", "end"};
 
-float leadingNumber(const String& text)
+float leadingNumber(const String& property, const String& text)
 {
     const double value = std::strtod(text.c_str(), nullptr);
     if (!std::isfinite(value) || std::fabs(value) > 3.0e38)
-        throw InvalidRequestException("'" + text + "' is not a number of pixels.");
+        throw InvalidRequestException("\"" + property + "\": '" + text +
+                                      "' is not a number of pixels.");
     return static_cast<float>(value);
 }
 
@@ -335,7 +336,7 @@ ChildIndentationProperty::ChildIndentationProperty()
 
 void ChildIndentationProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    static_cast<NodeItem*>(receiver)->SetChildIndentation(leadingNumber(value));
+    static_cast<NodeItem*>(receiver)->SetChildIndentation(leadingNumber(getName(), value));
 }
 
 ChildMarginProperty::ChildMarginProperty()
@@ -346,7 +347,7 @@ ChildMarginProperty::ChildMarginProperty()
 
 void ChildMarginProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    static_cast<NodeItem*>(receiver)->SetChildMargin(leadingNumber(value));
+    static_cast<NodeItem*>(receiver)->SetChildMargin(leadingNumber(getName(), value));
 }
 
 MultiSelectionProperty::MultiSelectionProperty()

@@ -135,8 +135,8 @@ public:
 };
 
 //! The leading decimal number of `text`, as atof reads it (0 when there is none); a
-//! number no float can hold is refused with InvalidRequestException.
-float leadingNumber(const String& text);
+//! number no float can hold is refused with InvalidRequestException naming `property`.
+float leadingNumber(const String& property, const String& text);
 } // namespace NodeItemProperties
 
 } // namespace MoxieLook

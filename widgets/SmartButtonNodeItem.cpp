@@ -391,6 +391,20 @@ const SmartButtonNodeItem& nodeOf(const PropertyReceiver* receiver)
     return *static_cast<const SmartButtonNodeItem*>(receiver);
 }
 const char* const Origin = "MoxieLook/SmartButtonNodeItem";
+
+// A refused text names the property it was given to, for the layout author's sake.
+template <typename Parse>
+auto parsedFor(const String& property, const String& value, Parse parse)
+{
+    try
+    {
+        return parse(value);
+    }
+    catch (const InvalidRequestException& refusal)
+    {
+        throw InvalidRequestException("\"" + property + "\": " + refusal.getMessage());
+    }
+}
 } // namespace
 
 IconText parseIconText(const String& text)
@@ -454,7 +468,7 @@ void ResizeStepNumberProperty::set(PropertyReceiver* receiver, const String& val
     }                                                                                              \
     void Class::set(PropertyReceiver* receiver, const String& value)                               \
     {                                                                                              \
-        const IconText icon = parseIconText(value);                                                \
+        const IconText icon = parsedFor(Name, value, parseIconText);                               \
         nodeOf(receiver).Setter(icon.selected, icon.image, icon.alignment);                        \
     }
 MOXIE_ICON_PROPERTY(NormalIconProperty, "NormalIcon", "Sets the normal icon", SetNormalIcon)
@@ -487,7 +501,7 @@ String SelectionRelativeSizeProperty::get(const PropertyReceiver*) const
 }
 void SelectionRelativeSizeProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    const auto [size, selected] = parseSizeText(value);
+    const auto [size, selected] = parsedFor(getName(), value, parseSizeText);
     nodeOf(receiver).SetAbsoluteSize(size, selected);
 }
 

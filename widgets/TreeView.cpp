@@ -4,6 +4,7 @@
 #include "widgets/WheelForwarding.h"
 
 #include <CEGUI/CoordConverter.h>
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/FontManager.h>
 #include <CEGUI/Image.h>
@@ -874,7 +875,14 @@ String TitleFontProperty::get(const PropertyReceiver* receiver) const
 }
 void TitleFontProperty::set(PropertyReceiver* receiver, const String& value)
 {
-    treeOf(receiver).SetTitleFont(value);
+    try
+    {
+        treeOf(receiver).SetTitleFont(value);
+    }
+    catch (const UnknownObjectException&)
+    {
+        throw UnknownObjectException("\"TitleFont\": no font named '" + value + "' is loaded.");
+    }
 }
 
 TextColourProperty::TextColourProperty(const String& name, const String& help,

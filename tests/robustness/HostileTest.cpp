@@ -143,3 +143,37 @@ TEST(Robustness, EveryTypeDrawsAtDegenerateAndHugeSizes)
         }
     }
 }
+
+// A layout author told that a text was refused learns which property and which text: every
+// property the module adds names both when it refuses.
+TEST(Robustness, ARefusedTextNamesItsPropertyAndItself)
+{
+    for (const String& type : moxietest::moduleTypeNames())
+    {
+        moxietest::freshSheet();
+        Window* window = moxietest::makeSample(type, 20, 20, 200, 100);
+        for (auto it = window->getPropertyIterator(); !it.isAtEnd(); ++it)
+        {
+            const String name = it.getCurrentKey();
+            const String origin = it.getCurrentValue()->getOrigin();
+            const bool modules = origin.find("MoxieLook/") == 0 || origin == "Unknown";
+            if (!modules || moxietest::skippedProperty(name) || name == "GridSize")
+                continue;
+            for (const char* text : {"garbage", "{{{", "nan", "-1"})
+            {
+                try
+                {
+                    window->setProperty(name, text);
+                }
+                catch (const CEGUI::Exception& refusal)
+                {
+                    const String& message = refusal.getMessage();
+                    EXPECT_NE(message.find(name), String::npos)
+                        << type << " " << name << ": " << message;
+                    EXPECT_NE(message.find(text), String::npos)
+                        << type << " " << name << ": " << message;
+                }
+            }
+        }
+    }
+}
