@@ -155,7 +155,8 @@ std::vector<Sample> inputSamples()
                  card.add("MoxieLook/WidgetDropDownListbox", "", 240, 10, 180, 26));
              fill(open);
              open.SetSelectedItem(0);
-             open.ShowDropList();
+             // Opened when photographed: building later cards would close it.
+             card.whenShown([&open] { open.ShowDropList(); });
              card.hoverOn(*open.getDropList());
          }},
         {"MoxieLook/WidgetDropDownList", 110,

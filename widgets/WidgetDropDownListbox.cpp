@@ -165,6 +165,13 @@ void WidgetDropDownListbox::placeList()
         UVector2(cegui_absdim(0), cegui_absdim(above ? -height : getPixelSize().d_height)));
 }
 
+void WidgetDropDownListbox::notifyScreenAreaChanged(bool recursive)
+{
+    RedrawnWhenUncovered<Window>::notifyScreenAreaChanged(recursive);
+    if (d_list && d_list->isVisible())
+        placeList();
+}
+
 void WidgetDropDownListbox::onSized(ElementEventArgs& e)
 {
     RedrawnWhenUncovered<Window>::onSized(e);

@@ -56,6 +56,8 @@ protected:
 
     void populateGeometryBuffer() override;
     void onSized(ElementEventArgs& e) override;
+    //! An open list follows the box wherever it goes, above or below as the display allows.
+    void notifyScreenAreaChanged(bool recursive = true) override;
 
     NinePieceFrame d_frame;
 
