@@ -54,6 +54,13 @@ HorzTextFormat horzTextFormatFromName(const String& name)
     for (int i = 0; i < 8; ++i)
         if (name == HorzNames[i])
             return static_cast<HorzTextFormat>(i);
+    // CEGUI 0.8's own names, as layouts written for its skins hold them.
+    if (name == "CentreAligned")
+        return HorzTextFormat::Centred;
+    if (name == "Justified")
+        return HorzTextFormat::Justified;
+    if (name == "WordWrapCentreAligned")
+        return HorzTextFormat::WordWrapCentred;
     return HorzTextFormat::Left;
 }
 
@@ -67,6 +74,8 @@ VertTextFormat vertTextFormatFromName(const String& name)
     for (int i = 0; i < 3; ++i)
         if (name == VertNames[i])
             return static_cast<VertTextFormat>(i);
+    if (name == "CentreAligned")
+        return VertTextFormat::Centred;
     return VertTextFormat::Top;
 }
 

@@ -35,8 +35,9 @@ enum class VertTextFormat
 
 //! The names hosts and layout files use: "LeftAligned", "RightAligned", "HorzCentred",
 //! "HorzJustified", "WordWrapLeftAligned", "WordWrapRightAligned", "WordWrapCentred",
-//! "WordWrapJustified"; and "TopAligned", "BottomAligned", "VertCentred". An unknown
-//! name reads as the first of its list.
+//! "WordWrapJustified"; and "TopAligned", "BottomAligned", "VertCentred". CEGUI 0.8's
+//! "CentreAligned", "Justified" and "WordWrapCentreAligned" read as their equivalents. An
+//! unknown name reads as the first of its list.
 HorzTextFormat horzTextFormatFromName(const String& name);
 String nameOf(HorzTextFormat format);
 VertTextFormat vertTextFormatFromName(const String& name);

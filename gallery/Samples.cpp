@@ -173,7 +173,8 @@ const std::vector<Sample>& samples()
     {
         std::vector<Sample> gathered;
         for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
-                           chartSamples, menuSamples, tabSamples, windowSamples, columnSamples})
+                           chartSamples, menuSamples, tabSamples, windowSamples, columnSamples,
+                           stockSkinSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

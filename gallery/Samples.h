@@ -90,5 +90,6 @@ std::vector<Sample> menuSamples();
 std::vector<Sample> tabSamples();
 std::vector<Sample> windowSamples();
 std::vector<Sample> columnSamples();
+std::vector<Sample> stockSkinSamples();
 
 } // namespace gallery

@@ -30,19 +30,13 @@ public:
 
     //! The side columns' widths and the lower row's height, which is the lower piece's
     //! width.
-    EdgeInsets edges() const;
+    static EdgeInsets edges();
+    //! The pieces over a window-local area of `size`, shared with the content pane type.
+    static void drawPieces(GeometryBuffer& buffer, const Sizef& size, float alpha);
 
 protected:
     void populateGeometryBuffer() override;
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
-
-private:
-    const Image* d_left;
-    const Image* d_middle;
-    const Image* d_right;
-    const Image* d_lowerLeft;
-    const Image* d_lowerRight;
-    const Image* d_lower;
 };
 
 using MXTabPaneFactory = LookFactory<MXTabPane>;

@@ -13,6 +13,7 @@
 #include "looks/MXMenus.h"
 #include "looks/MXMultiColumnList.h"
 #include "looks/MXMultiLineEditBox.h"
+#include "looks/MXPlainWindows.h"
 #include "looks/MXProgressBar.h"
 #include "looks/MXScrollablePane.h"
 #include "looks/MXScrollbar.h"
@@ -107,6 +108,11 @@ MXListHeaderFactory s_listHeader;
 MXMultiColumnListFactory s_multiColumnList;
 MXMultiColumnListExFactory s_multiColumnListEx;
 MXTreeViewMultiColumnListExFactory s_treeViewMultiColumnListEx;
+MXLabelFactory s_label;
+MXStaticFrameFactory s_static;
+MXGroupBoxFactory s_groupBox;
+MXTabContentPaneFactory s_tabContentPane;
+MXTabButtonPaneFactory s_tabButtonPane;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -164,6 +170,12 @@ const std::array k_table{
     FactoryEntry{MXSmartButtonNodeItem::WidgetTypeName, &s_smartButtonNodeItem, nullptr},
     FactoryEntry{MXMenuButton::WidgetTypeName, &s_menuButton, nullptr},
     FactoryEntry{MXAnimatedStaticImage::WidgetTypeName, &s_animatedStaticImage, nullptr},
+    // The stock skins' types the module's own did not cover.
+    FactoryEntry{MXLabel::WidgetTypeName, &s_label, nullptr},
+    FactoryEntry{MXStaticFrame::WidgetTypeName, &s_static, nullptr},
+    FactoryEntry{MXGroupBox::WidgetTypeName, &s_groupBox, nullptr},
+    FactoryEntry{MXTabContentPane::WidgetTypeName, &s_tabContentPane, nullptr},
+    FactoryEntry{MXTabButtonPane::WidgetTypeName, &s_tabButtonPane, nullptr},
 };
 } // namespace
 

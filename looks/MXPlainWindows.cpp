@@ -1,0 +1,313 @@
+#include "looks/MXPlainWindows.h"
+
+#include "draw/FramedFill.h"
+#include "draw/Imagery.h"
+#include "looks/MXStatics.h"
+#include "looks/MXTabPane.h"
+
+#include <CEGUI/CoordConverter.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+const Colour MXLabel::DefaultNormalTextColour(0xFF000000);
+const Colour MXLabel::DefaultDisabledTextColour(0xFF888888);
+const Colour MXGroupBox::DefaultCaptionColour(0xFF000000);
+
+namespace
+{
+// Draws the window's text into `area`, in `colour` faded with the window.
+void drawWindowText(Window& window, const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
+                    const Colour& colour)
+{
+    if (!window.getFont() || window.getText().empty())
+        return;
+    const ColourRect colours(withAlpha(colour, window.getEffectiveAlpha() * colour.getAlpha()));
+    drawText(window, window.getGeometryBuffer(), window.getRenderedString(), area, horz, vert,
+             colours, nullptr);
+}
+} // namespace
+
+// --- Label ----------------------------------------------------------------------------------
+
+MXLabel::MXLabel(const String& type, const String& name)
+    : RedrawnWhenUncovered<DefaultWindow>(type, name)
+{
+    // A label sizes as CEGUI's stock labels do, not to its whole parent.
+    setMaxSize(USize(cegui_reldim(0), cegui_reldim(0)));
+    setSize(USize(cegui_absdim(128), cegui_absdim(32)));
+    StaticFrameImages::setCursorOf(*this);
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXLabel, Colour, "NormalTextColour",
+                          "Property to get/set the text colour while enabled. Value is "
+                          "\"aarrggbb\".",
+                          &MXLabel::setNormalTextColour, &MXLabel::getNormalTextColour,
+                          DefaultNormalTextColour);
+    CEGUI_DEFINE_PROPERTY(MXLabel, Colour, "DisabledTextColour",
+                          "Property to get/set the text colour while disabled. Value is "
+                          "\"aarrggbb\".",
+                          &MXLabel::setDisabledTextColour, &MXLabel::getDisabledTextColour,
+                          DefaultDisabledTextColour);
+    CEGUI_DEFINE_PROPERTY(MXLabel, String, "HorzFormatting",
+                          "Property to get/set the horizontal text formatting: \"LeftAligned\", "
+                          "\"RightAligned\", \"CentreAligned\", \"Justified\", "
+                          "\"WordWrapLeftAligned\", ...",
+                          &MXLabel::setHorzFormatting, &MXLabel::getHorzFormatting, "HorzCentred");
+    CEGUI_DEFINE_PROPERTY(MXLabel, String, "VertFormatting",
+                          "Property to get/set the vertical text formatting: \"TopAligned\", "
+                          "\"BottomAligned\", \"CentreAligned\".",
+                          &MXLabel::setVertFormatting, &MXLabel::getVertFormatting, "VertCentred");
+}
+
+void MXLabel::setNormalTextColour(const Colour& colour)
+{
+    d_normalText = colour;
+    invalidate();
+}
+
+void MXLabel::setDisabledTextColour(const Colour& colour)
+{
+    d_disabledText = colour;
+    invalidate();
+}
+
+void MXLabel::setHorzFormatting(const String& name)
+{
+    d_horz = horzTextFormatFromName(name);
+    invalidate();
+}
+
+void MXLabel::setVertFormatting(const String& name)
+{
+    d_vert = vertTextFormatFromName(name);
+    invalidate();
+}
+
+void MXLabel::onTextChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<DefaultWindow>::onTextChanged(e);
+    invalidate();
+}
+
+void MXLabel::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    drawWindowText(*this, Rectf(Vector2f(0, 0), getPixelSize()), d_horz, d_vert,
+                   isEffectiveDisabled() ? d_disabledText : d_normalText);
+}
+
+// --- Static and group box -------------------------------------------------------------------
+
+MXFramedWindow::MXFramedWindow(const String& type, const String& name)
+    : RedrawnWhenUncovered<DefaultWindow>(type, name),
+      d_background(&lookImage(StaticFrameImages::BackgroundImage))
+{
+    setMaxSize(USize(cegui_reldim(0), cegui_reldim(0)));
+    setSize(USize(cegui_absdim(128), cegui_absdim(64)));
+    StaticFrameImages::setCursorOf(*this);
+    d_frame.setImages({StaticFrameImages::TopLeftImage, StaticFrameImages::TopRightImage,
+                       StaticFrameImages::BottomLeftImage, StaticFrameImages::BottomRightImage,
+                       StaticFrameImages::LeftImage, StaticFrameImages::TopImage,
+                       StaticFrameImages::RightImage, StaticFrameImages::BottomImage});
+    const String propertyOrigin("MoxieLook/Static");
+    CEGUI_DEFINE_PROPERTY(MXFramedWindow, bool, "FrameEnabled",
+                          "Property to get/set whether the frame is drawn. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXFramedWindow::setFrameEnabled, &MXFramedWindow::isFrameEnabled, true);
+    CEGUI_DEFINE_PROPERTY(MXFramedWindow, bool, "BackgroundEnabled",
+                          "Property to get/set whether the background is drawn. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXFramedWindow::setBackgroundEnabled,
+                          &MXFramedWindow::isBackgroundEnabled, true);
+    CEGUI_DEFINE_PROPERTY(MXFramedWindow, ColourRect, "FrameColours",
+                          "Property to get/set the frame's colours. Value is "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXFramedWindow::setFrameColours, &MXFramedWindow::getFrameColours,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXFramedWindow, ColourRect, "BackgroundColours",
+                          "Property to get/set the background's colours. Value is "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXFramedWindow::setBackgroundColours,
+                          &MXFramedWindow::getBackgroundColours, ColourRect(Colour(0xFFFFFFFF)));
+}
+
+void MXFramedWindow::setFrameEnabled(bool enabled)
+{
+    d_frameEnabled = enabled;
+    invalidate();
+    notifyScreenAreaChanged(); // the inner area moves
+}
+
+void MXFramedWindow::setBackgroundEnabled(bool enabled)
+{
+    d_backgroundEnabled = enabled;
+    invalidate();
+}
+
+void MXFramedWindow::setFrameColours(const ColourRect& colours)
+{
+    d_frameColours = colours;
+    invalidate();
+}
+
+void MXFramedWindow::setBackgroundColours(const ColourRect& colours)
+{
+    d_backgroundColours = colours;
+    invalidate();
+}
+
+Rectf MXFramedWindow::frameArea() const
+{
+    return Rectf(Vector2f(0, 0), getPixelSize());
+}
+
+Rectf MXFramedWindow::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
+{
+    const Rectf outer = skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
+                                              : getUnclippedOuterRect().get();
+    Rectf inner = d_frameEnabled ? d_frame.innerRect(frameArea()) : frameArea();
+    inner.offset(outer.d_min);
+    return inner;
+}
+
+void MXFramedWindow::onSized(ElementEventArgs& e)
+{
+    RedrawnWhenUncovered<DefaultWindow>::onSized(e);
+    invalidate();
+}
+
+void MXFramedWindow::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const float alpha = getEffectiveAlpha();
+    const Rectf area = frameArea();
+    if (d_backgroundEnabled)
+        d_background->render(buffer, d_frameEnabled ? d_frame.innerRect(area) : area, nullptr,
+                             faded(d_backgroundColours, alpha));
+    if (d_frameEnabled)
+    {
+        d_frame.setSize(area.getSize());
+        d_frame.setColours(faded(d_frameColours, alpha));
+        d_frame.draw(buffer, area.d_min, nullptr);
+    }
+}
+
+MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(type, name)
+{
+    setSize(USize(cegui_absdim(200), cegui_absdim(120)));
+    setBackgroundEnabled(false);
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXGroupBox, Colour, "NormalTextColour",
+                          "Property to get/set the caption's colour. Value is \"aarrggbb\".",
+                          &MXGroupBox::setNormalTextColour, &MXGroupBox::getNormalTextColour,
+                          DefaultCaptionColour);
+}
+
+void MXGroupBox::setNormalTextColour(const Colour& colour)
+{
+    d_captionColour = colour;
+    invalidate();
+}
+
+Rectf MXGroupBox::frameArea() const
+{
+    const Font* font = getFont();
+    const float band = font && !getText().empty() ? std::floor(font->getLineSpacing() * 0.5f) : 0;
+    return Rectf(0, band, getPixelSize().d_width, getPixelSize().d_height);
+}
+
+Rectf MXGroupBox::captionArea() const
+{
+    const Font* font = getFont();
+    if (!font || getText().empty())
+        return Rectf(0, 0, 0, 0);
+    const float width = font->getTextExtent(getText()) + 2 * CaptionPadding;
+    const float right = std::min(CaptionIndent + width, getPixelSize().d_width - CaptionIndent);
+    return Rectf(CaptionIndent, 0, std::max(CaptionIndent, right), font->getLineSpacing());
+}
+
+void MXGroupBox::onTextChanged(WindowEventArgs& e)
+{
+    MXFramedWindow::onTextChanged(e);
+    invalidate();
+    notifyScreenAreaChanged(); // the caption band moves the inner area
+}
+
+void MXGroupBox::onFontChanged(WindowEventArgs& e)
+{
+    MXFramedWindow::onFontChanged(e);
+    notifyScreenAreaChanged();
+}
+
+void MXGroupBox::populateGeometryBuffer()
+{
+    const Rectf caption = captionArea();
+    if (caption.getWidth() <= 0 || !isFrameEnabled())
+        MXFramedWindow::populateGeometryBuffer();
+    if (!hasVisibleArea(*this) || caption.getWidth() <= 0)
+        return;
+    // The frame's top edge breaks where the caption stands, whatever lies behind the box.
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Rectf area = frameArea();
+    const float alpha = getEffectiveAlpha();
+    if (isBackgroundEnabled())
+        d_background->render(buffer, d_frame.innerRect(area), nullptr,
+                             faded(getBackgroundColours(), alpha));
+    d_frame.setSize(area.getSize());
+    d_frame.setColours(faded(getFrameColours(), alpha));
+    const float edgeBottom = area.top() + d_frame.pieceHeight(NinePieceFrame::Top);
+    const Sizef size = getPixelSize();
+    for (const Rectf& clip : {Rectf(0, 0, caption.left(), size.d_height),
+                              Rectf(caption.right(), 0, size.d_width, size.d_height),
+                              Rectf(caption.left(), edgeBottom, caption.right(), size.d_height)})
+        d_frame.draw(buffer, area.d_min, &clip);
+    const Rectf text(caption.left() + CaptionPadding, caption.top(),
+                     caption.right() - CaptionPadding, caption.bottom());
+    drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred, d_captionColour);
+}
+
+// --- The tab control's panes ----------------------------------------------------------------
+
+MXTabContentPane::MXTabContentPane(const String& type, const String& name)
+    : RedrawnWhenUncovered<DefaultWindow>(type, name)
+{
+    StaticFrameImages::setCursorOf(*this);
+}
+
+Rectf MXTabContentPane::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
+{
+    return MXTabPane::edges().inside(skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
+                                                           : getUnclippedOuterRect().get());
+}
+
+void MXTabContentPane::populateGeometryBuffer()
+{
+    if (hasVisibleArea(*this))
+        MXTabPane::drawPieces(getGeometryBuffer(), getPixelSize(), getEffectiveAlpha());
+}
+
+MXTabButtonPane::MXTabButtonPane(const String& type, const String& name)
+    : RedrawnWhenUncovered<DefaultWindow>(type, name)
+{
+    StaticFrameImages::setCursorOf(*this);
+}
+
+void MXTabButtonPane::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    const Sizef size = getPixelSize();
+    const float height = std::min(BaseLineHeight, size.d_height);
+    lookImage(MXTabPane::LowerImageName)
+        .render(getGeometryBuffer(), Rectf(0, size.d_height - height, size.d_width, size.d_height),
+                nullptr, withAlpha(ColourRect(MXTabPane::MiddleColour), getEffectiveAlpha()));
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

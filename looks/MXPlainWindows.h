@@ -1,0 +1,152 @@
+// Windows on CEGUI's DefaultWindow, as the stock skins make them:
+// "MoxieLook/Label": text without a frame ("NormalTextColour", "DisabledTextColour",
+//   "HorzFormatting", "VertFormatting");
+// "MoxieLook/Static": the "StaticFrame..." frame around the "StaticFrameFill" background
+//   ("FrameEnabled", "BackgroundEnabled", "FrameColours", "BackgroundColours");
+// "MoxieLook/GroupBox": that frame with the window's text as a caption on its top edge;
+//   children go inside the frame, under the caption;
+// "MoxieLook/TabContentPane" and "MoxieLook/TabButtonPane": the tab control's page area
+//   (the "TabPane..." pieces) and the strip its tabs stand on, as types of their own.
+#pragma once
+
+#include "draw/NinePieceFrame.h"
+#include "draw/RedrawnWhenUncovered.h"
+#include "draw/TextDrawing.h"
+#include "looks/LookFactory.h"
+
+#include <CEGUI/widgets/DefaultWindow.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+class MXLabel : public RedrawnWhenUncovered<DefaultWindow>
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/Label";
+    static const Colour DefaultNormalTextColour;
+    static const Colour DefaultDisabledTextColour;
+
+    MXLabel(const String& type, const String& name);
+
+    void setNormalTextColour(const Colour& colour);
+    const Colour& getNormalTextColour() const { return d_normalText; }
+    void setDisabledTextColour(const Colour& colour);
+    const Colour& getDisabledTextColour() const { return d_disabledText; }
+    void setHorzFormatting(const String& name);
+    String getHorzFormatting() const { return nameOf(d_horz); }
+    void setVertFormatting(const String& name);
+    String getVertFormatting() const { return nameOf(d_vert); }
+
+protected:
+    void populateGeometryBuffer() override;
+    void onTextChanged(WindowEventArgs& e) override;
+
+private:
+    Colour d_normalText = DefaultNormalTextColour;
+    Colour d_disabledText = DefaultDisabledTextColour;
+    HorzTextFormat d_horz = HorzTextFormat::Centred;
+    VertTextFormat d_vert = VertTextFormat::Centred;
+};
+
+//! The framed background "MoxieLook/Static" and "MoxieLook/GroupBox" share.
+class MXFramedWindow : public RedrawnWhenUncovered<DefaultWindow>
+{
+public:
+    MXFramedWindow(const String& type, const String& name);
+
+    void setFrameEnabled(bool enabled);
+    bool isFrameEnabled() const { return d_frameEnabled; }
+    void setBackgroundEnabled(bool enabled);
+    bool isBackgroundEnabled() const { return d_backgroundEnabled; }
+    void setFrameColours(const ColourRect& colours);
+    const ColourRect& getFrameColours() const { return d_frameColours; }
+    void setBackgroundColours(const ColourRect& colours);
+    const ColourRect& getBackgroundColours() const { return d_backgroundColours; }
+
+    //! Window-local: where the frame is drawn (all of the window but a caption band).
+    virtual Rectf frameArea() const;
+
+protected:
+    void populateGeometryBuffer() override;
+    Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+    void onSized(ElementEventArgs& e) override;
+
+    NinePieceFrame d_frame;
+    const Image* d_background;
+
+private:
+    bool d_frameEnabled = true;
+    bool d_backgroundEnabled = true;
+    ColourRect d_frameColours{Colour(0xFFFFFFFF)};
+    ColourRect d_backgroundColours{Colour(0xFFFFFFFF)};
+};
+
+class MXStaticFrame : public MXFramedWindow
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/Static";
+    using MXFramedWindow::MXFramedWindow;
+};
+
+class MXGroupBox : public MXFramedWindow
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/GroupBox";
+    //! Pixels between the frame's left edge and the caption, and around the caption.
+    static constexpr float CaptionIndent = 10.0f;
+    static constexpr float CaptionPadding = 4.0f;
+    static const Colour DefaultCaptionColour;
+
+    MXGroupBox(const String& type, const String& name);
+
+    //! The caption band is half a line above the frame's top edge.
+    Rectf frameArea() const override;
+    //! Window-local rectangle of the caption's backing, empty without a text.
+    Rectf captionArea() const;
+
+    void setNormalTextColour(const Colour& colour);
+    const Colour& getNormalTextColour() const { return d_captionColour; }
+
+protected:
+    void populateGeometryBuffer() override;
+    void onTextChanged(WindowEventArgs& e) override;
+    void onFontChanged(WindowEventArgs& e) override;
+
+private:
+    Colour d_captionColour = DefaultCaptionColour;
+};
+
+class MXTabContentPane : public RedrawnWhenUncovered<DefaultWindow>
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/TabContentPane";
+
+    MXTabContentPane(const String& type, const String& name);
+
+protected:
+    void populateGeometryBuffer() override;
+    Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+};
+
+class MXTabButtonPane : public RedrawnWhenUncovered<DefaultWindow>
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/TabButtonPane";
+    //! The line the tabs stand on, along the pane's bottom.
+    static constexpr float BaseLineHeight = 2.0f;
+
+    MXTabButtonPane(const String& type, const String& name);
+
+protected:
+    void populateGeometryBuffer() override;
+};
+
+using MXLabelFactory = LookFactory<MXLabel>;
+using MXStaticFrameFactory = LookFactory<MXStaticFrame>;
+using MXGroupBoxFactory = LookFactory<MXGroupBox>;
+using MXTabContentPaneFactory = LookFactory<MXTabContentPane>;
+using MXTabButtonPaneFactory = LookFactory<MXTabButtonPane>;
+
+} // namespace MoxieLook
+} // namespace CEGUI

@@ -1,0 +1,128 @@
+// The types the stock CEGUI skins have beside the module's own: drawn from the family's
+// images, with the stock skins' properties, laid out for their children.
+#include "looks/MXPlainWindows.h"
+#include "support/DrawnQuads.h"
+#include "support/Gui.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/DefaultWindow.h>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace CEGUI;
+using namespace CEGUI::MoxieLook;
+using moxietest::argb;
+using moxietest::drawnBy;
+using moxietest::DrawnQuad;
+
+namespace
+{
+class StockSkinTypesTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { moxietest::freshSheet(); }
+};
+
+const DrawnQuad* find(const std::vector<DrawnQuad>& quads, const std::string& image)
+{
+    const auto it = std::find_if(quads.begin(), quads.end(),
+                                 [&](const DrawnQuad& quad) { return quad.image == image; });
+    return it == quads.end() ? nullptr : &*it;
+}
+} // namespace
+
+TEST_F(StockSkinTypesTest, LabelsAreDefaultWindowsTakingTheStockFormattingNames)
+{
+    Window& label = moxietest::place("MoxieLook/Label", 10, 10, 200, 30);
+    EXPECT_NE(dynamic_cast<DefaultWindow*>(&label), nullptr);
+    label.setText("Volume");
+    auto quads = drawnBy(label);
+    ASSERT_EQ(quads.size(), 1u);
+    const float width = label.getFont()->getTextExtent("Volume");
+    EXPECT_NEAR(quads[0].rect.left(), (200 - width) / 2, 1.5f); // centred by default
+    EXPECT_EQ(argb(quads[0].colours.d_top_left), 0xFF000000u);
+
+    // A layout written for a stock skin names CEGUI 0.8's formatting and colours.
+    label.setProperty("HorzFormatting", "RightAligned");
+    label.setProperty("NormalTextColour", "FF2060B0");
+    quads = drawnBy(label);
+    EXPECT_NEAR(quads[0].rect.right(), 200, 1.5f);
+    EXPECT_EQ(argb(quads[0].colours.d_top_left), 0xFF2060B0u);
+    label.setProperty("HorzFormatting", "CentreAligned");
+    EXPECT_NEAR(drawnBy(label)[0].rect.left(), (200 - width) / 2, 1.5f);
+    label.disable();
+    EXPECT_EQ(argb(drawnBy(label)[0].colours.d_top_left), 0xFF888888u);
+}
+
+TEST_F(StockSkinTypesTest, StaticsDrawTheirFrameAndBackgroundAndHoldChildrenInside)
+{
+    Window& frame = moxietest::place("MoxieLook/Static", 10, 10, 120, 60);
+    auto quads = drawnBy(frame);
+    ASSERT_EQ(quads.size(), 9u); // background, then eight frame pieces
+    EXPECT_EQ(quads[0].image, "StaticFrameFill");
+    EXPECT_EQ(quads[1].image, "StaticFrameTopLeft");
+    const Rectf fill = quads[0].rect;
+    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
+    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
+    frame.addChild(child);
+    EXPECT_EQ(child->getUnclippedOuterRect().get().d_min, Vector2f(10, 10) + fill.d_min);
+
+    frame.setProperty("BackgroundColours", "tl:FFFF0000 tr:FFFF0000 bl:FF0000FF br:FF0000FF");
+    frame.setProperty("FrameEnabled", "False");
+    quads = drawnBy(frame);
+    ASSERT_EQ(quads.size(), 1u);
+    EXPECT_EQ(quads[0].rect, Rectf(0, 0, 120, 60)); // the background takes the frame's room
+    EXPECT_EQ(argb(quads[0].colours.d_bottom_left), 0xFF0000FFu);
+    EXPECT_EQ(child->getUnclippedOuterRect().get().d_min, Vector2f(10, 10));
+    frame.setProperty("BackgroundEnabled", "False");
+    EXPECT_TRUE(drawnBy(frame).empty());
+}
+
+TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildrenBelowIt)
+{
+    auto& box = static_cast<MXGroupBox&>(moxietest::place("MoxieLook/GroupBox", 10, 10, 200, 100));
+    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
+    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
+    box.addChild(child);
+    const float uncaptioned = child->getUnclippedOuterRect().get().top();
+    box.setText("Sound");
+    const Rectf caption = box.captionArea();
+    ASSERT_GT(caption.getWidth(), 0);
+    // The children move below the caption's band, the whole frame with them.
+    EXPECT_GT(child->getUnclippedOuterRect().get().top(), uncaptioned);
+
+    const auto quads = drawnBy(box);
+    bool textDrawn = false;
+    for (const DrawnQuad& quad : quads)
+    {
+        if (quad.image == "text")
+        {
+            textDrawn = true;
+            EXPECT_GE(quad.rect.left(), caption.left());
+            continue;
+        }
+        // No piece of the frame's top edge shows inside the caption's span.
+        if (quad.image == "StaticFrameTop")
+        {
+            EXPECT_TRUE(quad.rect.right() <= caption.left() + 0.5f ||
+                        quad.rect.left() >= caption.right() - 0.5f)
+                << quad;
+        }
+    }
+    EXPECT_TRUE(textDrawn);
+    EXPECT_NE(find(quads, "StaticFrameBottom"), nullptr);
+}
+
+TEST_F(StockSkinTypesTest, TheTabControlsPanesAsTypesOfTheirOwn)
+{
+    Window& pane = moxietest::place("MoxieLook/TabContentPane", 10, 10, 200, 100);
+    const auto pieces = moxietest::imageNames(drawnBy(pane));
+    EXPECT_EQ(pieces,
+              (std::vector<std::string>{"TabPaneLeft", "TabPaneLowerLeft", "TabPaneMiddle",
+                                        "TabPaneLower", "TabPaneRight", "TabPaneLowerRight"}));
+    Window& strip = moxietest::place("MoxieLook/TabButtonPane", 10, 150, 200, 26);
+    const auto line = drawnBy(strip);
+    ASSERT_EQ(line.size(), 1u);
+    EXPECT_EQ(line[0].rect, Rectf(0, 24, 200, 26)); // the line the tabs stand on
+}
