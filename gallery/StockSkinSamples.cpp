@@ -3,10 +3,25 @@
 #include "Samples.h"
 
 #include <CEGUI/Window.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/Thumb.h>
 
 namespace gallery
 {
 using namespace CEGUI;
+
+namespace
+{
+using State = Card::State;
+
+// Each state's window, in the order `states` made them, given `property` = `value`.
+void setOnAll(Card& card, std::size_t first, const String& property, const String& value)
+{
+    for (std::size_t i = first; i < card.count(); ++i)
+        card.at(i).setProperty(property, value);
+}
+} // namespace
 
 std::vector<Sample> stockSkinSamples()
 {
@@ -56,6 +71,65 @@ std::vector<Sample> stockSkinSamples()
              Window& strip = card.add("MoxieLook/TabButtonPane", "", 10, 10, 300, 28);
              childOf(strip, "MoxieLook/TabButton", "General", 0, 0, 90, 26);
              childOf(strip, "MoxieLook/TabButton", "Sound", 90, 0, 90, 26);
+         }},
+        {"MoxieLook/ImageButton", 70,
+         [](Card& card)
+         {
+             card.states("MoxieLook/ImageButton", "", 48, 32,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
+             const char* images[][2] = {{"NormalImage", "MoxieLook/ToolButtonNormal"},
+                                        {"HoverImage", "MoxieLook/ToolButtonFocus"},
+                                        {"PushedImage", "MoxieLook/ToolButtonClicked"},
+                                        {"DisabledImage", "MoxieLook/ToolButtonDisabled"}};
+             for (const auto& [property, image] : images)
+                 setOnAll(card, 0, property, image);
+         }},
+        {"MoxieLook/IconButton", 70,
+         [](Card& card)
+         {
+             card.states("MoxieLook/IconButton", "", 40, 32,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
+             setOnAll(card, 0, "IconImage", "MoxieLook/IconStar");
+         }},
+        {"MoxieLook/SystemButton", 60,
+         [](Card& card)
+         {
+             card.states("MoxieLook/SystemButton", "", 16, 16,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
+         }},
+        {"MoxieLook/ComboEditbox", 60,
+         [](Card& card)
+         {
+             auto& box = static_cast<Editbox&>(
+                 card.add("MoxieLook/ComboEditbox", "focused, a selection", 10, 10, 180, 26));
+             box.setText("Choice 3");
+             box.activate();
+             box.setSelection(0, 6);
+             card.add("MoxieLook/ComboEditbox", "read-only", 210, 10, 180, 26)
+                 .setProperty("ReadOnly", "True");
+         }},
+        {"MoxieLook/LargeVerticalScrollbar", 150,
+         [](Card& card)
+         {
+             for (int i = 0; i < 3; ++i)
+             {
+                 auto& bar = static_cast<Scrollbar&>(card.add("MoxieLook/LargeVerticalScrollbar",
+                                                              i == 0   ? "start"
+                                                              : i == 1 ? "middle"
+                                                                       : "hover",
+                                                              10 + i * 130.0f, 10, 24, 110));
+                 bar.setDocumentSize(100);
+                 bar.setPageSize(25);
+                 bar.setScrollPosition(i * 35.0f);
+                 if (i == 2)
+                     card.hoverOn(*bar.getThumb());
+             }
+         }},
+        {"MoxieLook/LargeVerticalScrollbarThumb", 96,
+         [](Card& card)
+         {
+             card.states("MoxieLook/LargeVerticalScrollbarThumb", "", 20, 60,
+                         {State::Normal, State::Hover, State::Pushed, State::Disabled});
          }},
     };
 }

@@ -4,6 +4,8 @@
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <cmath>
 
 namespace CEGUI
@@ -116,6 +118,103 @@ void MXButton::onAlphaChanged(WindowEventArgs& e)
 {
     PushButtonEx::onAlphaChanged(e);
     fadeFrames({&d_normalFrame, &d_hoverFrame, &d_pushedFrame}, getEffectiveAlpha());
+}
+
+const Colour MXImageButton::DisabledImageColour(0x007F7F7F);
+
+MXImageButton::MXImageButton(const String& type, const String& name) : MXButton(type, name)
+{
+    setStandardImageryEnabled(false);
+}
+
+void MXImageButton::drawHover()
+{
+    if (isHoverImageEnabled())
+        return MXButton::drawHover();
+    drawState(HoverPrimaryColour, HoverSecondaryColour, d_hoverFrame, isNormalImageEnabled(),
+              d_normalImage, getHoverTextColour());
+}
+
+void MXImageButton::drawPushed()
+{
+    if (isPushedImageEnabled())
+        return MXButton::drawPushed();
+    drawState(PushedPrimaryColour, PushedSecondaryColour, d_pushedFrame, isNormalImageEnabled(),
+              d_normalImage, getPushedTextColour());
+}
+
+void MXImageButton::drawDisabled()
+{
+    if (isDisabledImageEnabled())
+        return MXButton::drawDisabled();
+    // The normal image, greyed for this draw only.
+    const ColourRect own = d_normalImage.getColours();
+    d_normalImage.setColours(ColourRect(DisabledImageColour));
+    drawState(DisabledPrimaryColour, DisabledSecondaryColour, d_normalFrame, isNormalImageEnabled(),
+              d_normalImage, getDisabledTextColour());
+    d_normalImage.setColours(own);
+}
+
+MXIconButton::MXIconButton(const String& type, const String& name) : MXButton(type, name)
+{
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXIconButton, Image*, "IconImage",
+                          "Property to get/set the icon, centred at its own size. Value is an "
+                          "image name such as \"MoxieLook/IconStar\".",
+                          &MXIconButton::setIconImage, &MXIconButton::getIconImage, nullptr);
+    CEGUI_DEFINE_PROPERTY(MXIconButton, ColourRect, "IconColours",
+                          "Property to get/set the icon's colours. Value is "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXIconButton::setIconColours, &MXIconButton::getIconColours,
+                          ColourRect(Colour(0xFFFFFFFF)));
+}
+
+void MXIconButton::setIconImage(const Image* image)
+{
+    d_icon = image;
+    invalidate();
+}
+
+void MXIconButton::setIconColours(const ColourRect& colours)
+{
+    d_iconColours = colours;
+    invalidate();
+}
+
+void MXIconButton::drawNormal()
+{
+    MXButton::drawNormal();
+    drawIcon(1.0f);
+}
+
+void MXIconButton::drawHover()
+{
+    MXButton::drawHover();
+    drawIcon(1.0f);
+}
+
+void MXIconButton::drawPushed()
+{
+    MXButton::drawPushed();
+    drawIcon(1.0f);
+}
+
+void MXIconButton::drawDisabled()
+{
+    MXButton::drawDisabled();
+    drawIcon(0.45f);
+}
+
+void MXIconButton::drawIcon(float alpha)
+{
+    if (!d_icon)
+        return;
+    const Sizef area = getPixelSize();
+    const Sizef size = d_icon->getRenderedSize();
+    const Vector2f at(std::trunc((area.d_width - size.d_width) * 0.5f + 0.5f),
+                      std::trunc((area.d_height - size.d_height) * 0.5f + 0.5f));
+    d_icon->render(getGeometryBuffer(), Rectf(at, size), nullptr,
+                   faded(d_iconColours, getEffectiveAlpha() * alpha));
 }
 
 } // namespace MoxieLook

@@ -87,7 +87,53 @@ protected:
     const Image* d_background = nullptr;
 };
 
+//! "MoxieLook/ImageButton": drawn from its state images alone ("NormalImage", "HoverImage",
+//! "PushedImage", "DisabledImage", stretched over the button, text over them). A state
+//! without an image shows the normal one; disabled, greyed.
+class MXImageButton : public MXButton
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/ImageButton";
+    static const Colour DisabledImageColour;
+
+    MXImageButton(const String& type, const String& name);
+
+protected:
+    void drawHover() override;
+    void drawPushed() override;
+    void drawDisabled() override;
+};
+
+//! "MoxieLook/IconButton": the framed button with an icon centred at its own size
+//! ("IconImage", "IconColours").
+class MXIconButton : public MXButton
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/IconButton";
+
+    MXIconButton(const String& type, const String& name);
+
+    void setIconImage(const Image* image);
+    const Image* getIconImage() const { return d_icon; }
+    void setIconColours(const ColourRect& colours);
+    const ColourRect& getIconColours() const { return d_iconColours; }
+
+protected:
+    void drawNormal() override;
+    void drawHover() override;
+    void drawPushed() override;
+    void drawDisabled() override;
+
+private:
+    void drawIcon(float alpha);
+
+    const Image* d_icon = nullptr;
+    ColourRect d_iconColours{Colour(0xFFFFFFFF)};
+};
+
 using MXButtonFactory = LookFactory<MXButton>;
+using MXImageButtonFactory = LookFactory<MXImageButton>;
+using MXIconButtonFactory = LookFactory<MXIconButton>;
 
 } // namespace MoxieLook
 } // namespace CEGUI

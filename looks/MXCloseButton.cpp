@@ -38,28 +38,37 @@ const Image* MXCloseButton::getStateImage(ButtonDrawState state) const
     }
 }
 
+// A picture given through "NormalImage", "HoverImage" or "PushedImage" (as layouts for the
+// stock skins' system buttons give them) stands in for the built-in one.
 void MXCloseButton::drawNormal()
 {
-    drawCentred(d_normal, 1.0f);
+    drawCentred(isNormalImageEnabled() ? d_normalImage.getImage() : d_normal, 1.0f);
 }
 
 void MXCloseButton::drawHover()
 {
-    drawCentred(d_hover, 1.0f);
+    drawCentred(isHoverImageEnabled() ? d_hoverImage.getImage() : d_hover, 1.0f);
 }
 
 void MXCloseButton::drawPushed()
 {
-    drawCentred(d_pushed, 1.0f);
+    drawCentred(isPushedImageEnabled() ? d_pushedImage.getImage() : d_pushed, 1.0f);
 }
 
 void MXCloseButton::drawDisabled()
 {
-    drawCentred(d_normal, DisabledAlpha);
+    drawCentred(isNormalImageEnabled() ? d_normalImage.getImage() : d_normal, DisabledAlpha);
+}
+
+MXSystemButton::MXSystemButton(const String& type, const String& name) : MXCloseButton(type, name)
+{
+    setNonClient(true); // it sits on a frame window's title bar
 }
 
 void MXCloseButton::drawCentred(const Image* image, float alpha)
 {
+    if (!image)
+        return;
     const Sizef area = getPixelSize();
     const Sizef size = image->getRenderedSize();
     const Vector2f at(std::trunc((area.d_width - size.d_width) * 0.5f + 0.5f),

@@ -1,7 +1,7 @@
 // "MoxieLook/CloseButton": the push-button look drawing one picture per state instead of
 // its frame and fill: "CloseButtonNormal", "...Hover", "...Pushed" (disabled: the normal
-// picture faded). The frame window also uses it for its minimise and roll-up buttons with
-// their own pictures.
+// picture faded), or those given as "NormalImage", "HoverImage" and "PushedImage". The frame window
+// also uses it for its minimise and roll-up buttons with their own pictures.
 #pragma once
 
 #include "looks/MXButton.h"
@@ -40,7 +40,17 @@ private:
     const Image* d_pushed;
 };
 
+//! "MoxieLook/SystemButton": the stock skins' title-bar button, the close button's look,
+//! non-client as a title-bar button is.
+class MXSystemButton : public MXCloseButton
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/SystemButton";
+    MXSystemButton(const String& type, const String& name);
+};
+
 using MXCloseButtonFactory = LookFactory<MXCloseButton>;
+using MXSystemButtonFactory = LookFactory<MXSystemButton>;
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -53,6 +53,15 @@ private:
     bool d_caretShown = true;
 };
 
+//! "MoxieLook/ComboEditbox": the combo box's edit part as a type of its own, the edit
+//! box's look.
+class MXComboEditbox : public MXEditbox
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/ComboEditbox";
+    using MXEditbox::MXEditbox;
+};
+
 class MXEditboxRenderer : public LookRenderer<EditboxWindowRenderer, MXEditbox>
 {
 public:
@@ -76,6 +85,7 @@ public:
 };
 
 using MXEditboxFactory = LookFactory<MXEditbox>;
+using MXComboEditboxFactory = LookFactory<MXComboEditbox>;
 using MXEditboxRendererFactory = LookRendererFactory<MXEditboxRenderer>;
 
 } // namespace MoxieLook

@@ -38,6 +38,17 @@ MXVertScrollbar::MXVertScrollbar(const String& type, const String& name)
 {
 }
 
+const char* MXLargeVertScrollbar::ThumbWidgetType = "MoxieLook/LargeVerticalScrollbarThumb";
+
+MXLargeVertScrollbar::MXLargeVertScrollbar(const String& type, const String& name)
+    : MXScrollbarBase(type, name,
+                      {true, &MXVertScrollbar::IncreaseButtonWidgetType,
+                       &MXVertScrollbar::DecreaseButtonWidgetType, &ThumbWidgetType,
+                       MXVertScrollbar::DownButtonNormalImageName,
+                       MXVertScrollbar::UpButtonNormalImageName, MXVertScrollbar::MinThumbHeight})
+{
+}
+
 MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
                                  const Orientation& orientation)
     : RedrawnWhenUncovered<Scrollbar>(type, name), d_orientation(orientation)

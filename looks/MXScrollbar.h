@@ -124,6 +124,17 @@ public:
     MXVertScrollbar(const String& type, const String& name);
 };
 
+//! "MoxieLook/LargeVerticalScrollbar": the stock skins' broad vertical bar, the vertical
+//! bar's look with its own thumb type ("MoxieLook/LargeVerticalScrollbarThumb").
+class MXLargeVertScrollbar : public MXScrollbarBase
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/LargeVerticalScrollbar";
+    static const char* ThumbWidgetType;
+
+    MXLargeVertScrollbar(const String& type, const String& name);
+};
+
 //! Forwards what CEGUI's Scrollbar asks of a renderer to the look.
 class MXScrollbarRenderer : public LookRenderer<ScrollbarWindowRenderer, MXScrollbarBase>
 {
@@ -149,6 +160,7 @@ public:
 };
 
 using MXHorzScrollbarFactory = LookFactory<MXHorzScrollbar>;
+using MXLargeVertScrollbarFactory = LookFactory<MXLargeVertScrollbar>;
 using MXVertScrollbarFactory = LookFactory<MXVertScrollbar>;
 using MXScrollbarRendererFactory = LookRendererFactory<MXScrollbarRenderer>;
 

@@ -104,7 +104,16 @@ public:
     MXVertScrollbarThumb(const String& type, const String& name);
 };
 
+//! "MoxieLook/LargeVerticalScrollbarThumb": the vertical thumb under the broad bar's name.
+class MXLargeVertScrollbarThumb : public MXVertScrollbarThumb
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/LargeVerticalScrollbarThumb";
+    using MXVertScrollbarThumb::MXVertScrollbarThumb;
+};
+
 using MXHorzScrollbarThumbFactory = LookFactory<MXHorzScrollbarThumb>;
+using MXLargeVertScrollbarThumbFactory = LookFactory<MXLargeVertScrollbarThumb>;
 using MXVertScrollbarThumbFactory = LookFactory<MXVertScrollbarThumb>;
 
 } // namespace MoxieLook

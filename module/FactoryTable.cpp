@@ -22,13 +22,13 @@
 #include "looks/MXSlider.h"
 #include "looks/MXSmartButtonNodeItem.h"
 #include "looks/MXSpinner.h"
+#include "looks/MXStatics.h"
 #include "looks/MXTabButton.h"
 #include "looks/MXTabControl.h"
 #include "looks/MXTabPane.h"
 #include "looks/MXTaskbar.h"
 #include "looks/MXTitlebar.h"
 #include "looks/MXTooltip.h"
-#include "looks/MXStatics.h"
 #include "looks/MXTreeView.h"
 #include "looks/MXTreeViewMultiColumnListEx.h"
 #include "looks/MXWidgetDropDownList.h"
@@ -113,6 +113,12 @@ MXStaticFrameFactory s_static;
 MXGroupBoxFactory s_groupBox;
 MXTabContentPaneFactory s_tabContentPane;
 MXTabButtonPaneFactory s_tabButtonPane;
+MXImageButtonFactory s_imageButton;
+MXIconButtonFactory s_iconButton;
+MXSystemButtonFactory s_systemButton;
+MXComboEditboxFactory s_comboEditbox;
+MXLargeVertScrollbarThumbFactory s_largeVertScrollbarThumb;
+MXLargeVertScrollbarFactory s_largeVertScrollbar;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -176,6 +182,12 @@ const std::array k_table{
     FactoryEntry{MXGroupBox::WidgetTypeName, &s_groupBox, nullptr},
     FactoryEntry{MXTabContentPane::WidgetTypeName, &s_tabContentPane, nullptr},
     FactoryEntry{MXTabButtonPane::WidgetTypeName, &s_tabButtonPane, nullptr},
+    FactoryEntry{MXImageButton::WidgetTypeName, &s_imageButton, nullptr},
+    FactoryEntry{MXIconButton::WidgetTypeName, &s_iconButton, nullptr},
+    FactoryEntry{MXSystemButton::WidgetTypeName, &s_systemButton, nullptr},
+    FactoryEntry{MXComboEditbox::WidgetTypeName, &s_comboEditbox, &s_editboxRenderer},
+    FactoryEntry{MXLargeVertScrollbarThumb::WidgetTypeName, &s_largeVertScrollbarThumb, nullptr},
+    FactoryEntry{MXLargeVertScrollbar::WidgetTypeName, &s_largeVertScrollbar, &s_scrollbarRenderer},
 };
 } // namespace
 

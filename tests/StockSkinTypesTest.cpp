@@ -5,8 +5,13 @@
 #include "support/Gui.h"
 
 #include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/DefaultWindow.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/Thumb.h>
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -125,4 +130,68 @@ TEST_F(StockSkinTypesTest, TheTabControlsPanesAsTypesOfTheirOwn)
     const auto line = drawnBy(strip);
     ASSERT_EQ(line.size(), 1u);
     EXPECT_EQ(line[0].rect, Rectf(0, 24, 200, 26)); // the line the tabs stand on
+}
+
+TEST_F(StockSkinTypesTest, ImageIconAndSystemButtonsDrawTheirPictures)
+{
+    Window& image = moxietest::place("MoxieLook/ImageButton", 10, 10, 48, 32);
+    EXPECT_NE(dynamic_cast<PushButton*>(&image), nullptr);
+    image.setProperty("NormalImage", "MoxieLook/ToolButtonNormal");
+    image.setProperty("PushedImage", "MoxieLook/ToolButtonClicked");
+    auto quads = drawnBy(image);
+    ASSERT_EQ(quads.size(), 1u); // the picture alone, no frame
+    EXPECT_EQ(quads[0].image, "ToolButtonNormal");
+    EXPECT_EQ(quads[0].rect, Rectf(0, 0, 48, 32));
+    moxietest::pointerTo(30, 20); // hovered, no hover picture: the normal one
+    EXPECT_EQ(moxietest::imageNames(drawnBy(image)), std::vector<std::string>{"ToolButtonNormal"});
+    moxietest::leftDown();
+    EXPECT_EQ(moxietest::imageNames(drawnBy(image)), std::vector<std::string>{"ToolButtonClicked"});
+    moxietest::leftUp();
+    image.disable();
+    quads = drawnBy(image);
+    ASSERT_EQ(quads.size(), 1u);
+    EXPECT_EQ(argb(quads[0].colours.d_top_left), 0xFF7F7F7Fu); // greyed
+    image.enable();
+    EXPECT_EQ(argb(drawnBy(image)[0].colours.d_top_left), 0xFFFFFFFFu); // and back
+
+    Window& icon = moxietest::place("MoxieLook/IconButton", 100, 10, 40, 32);
+    icon.setProperty("IconImage", "MoxieLook/IconStar");
+    quads = drawnBy(icon);
+    ASSERT_GE(quads.size(), 2u);
+    EXPECT_EQ(quads.front().image, "ButtonArrowFill");
+    const DrawnQuad* star = find(quads, "IconStar");
+    ASSERT_NE(star, nullptr);
+    const Sizef starSize = star->rect.getSize();
+    EXPECT_NEAR(star->rect.left(), (40 - starSize.d_width) / 2, 0.51f);
+    EXPECT_NEAR(star->rect.top(), (32 - starSize.d_height) / 2, 0.51f);
+
+    Window& system = moxietest::place("MoxieLook/SystemButton", 200, 10, 16, 16);
+    EXPECT_TRUE(system.isNonClient());
+    EXPECT_EQ(moxietest::imageNames(drawnBy(system)),
+              std::vector<std::string>{"CloseButtonNormal"});
+    system.setProperty("NormalImage", "MoxieLook/MinimizeButtonNormal");
+    EXPECT_EQ(moxietest::imageNames(drawnBy(system)),
+              std::vector<std::string>{"MinimizeButtonNormal"});
+}
+
+TEST_F(StockSkinTypesTest, TheComboEditPartAndTheBroadBarWorkAsTheirOwnTypes)
+{
+    auto& edit = static_cast<Editbox&>(moxietest::place("MoxieLook/ComboEditbox", 10, 10, 180, 26));
+    moxietest::click(100, 20);
+    for (char c : std::string("abc"))
+        moxietest::context().injectChar(static_cast<utf32>(c));
+    EXPECT_EQ(edit.getText(), "abc");
+    EXPECT_EQ(edit.getCaretIndex(), 3u);
+
+    auto& bar = static_cast<Scrollbar&>(
+        moxietest::place("MoxieLook/LargeVerticalScrollbar", 300, 10, 24, 200));
+    EXPECT_EQ(bar.getThumb()->getType(), "MoxieLook/LargeVerticalScrollbarThumb");
+    bar.setDocumentSize(100);
+    bar.setPageSize(20);
+    bar.setStepSize(5);
+    const Vector2f arrow = moxietest::centreOf(*bar.getIncreaseButton());
+    moxietest::click(arrow.d_x, arrow.d_y);
+    EXPECT_EQ(bar.getScrollPosition(), 5);
+    moxietest::wheel(arrow.d_x, arrow.d_y, -1);
+    EXPECT_EQ(bar.getScrollPosition(), 10);
 }
