@@ -4,6 +4,7 @@
 
 #include <CEGUI/Window.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ProgressBar.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
 
@@ -130,6 +131,34 @@ std::vector<Sample> stockSkinSamples()
          {
              card.states("MoxieLook/LargeVerticalScrollbarThumb", "", 20, 60,
                          {State::Normal, State::Hover, State::Pushed, State::Disabled});
+         }},
+        {"MoxieLook/AlternateProgressBar", 110,
+         [](Card& card)
+         {
+             const float values[] = {0.0f, 0.35f, 1.0f};
+             const char* captions[] = {"empty", "35 %", "full"};
+             for (int i = 0; i < 3; ++i)
+                 static_cast<ProgressBar&>(card.add("MoxieLook/AlternateProgressBar", captions[i],
+                                                    10 + i * 200.0f, 10, 180, 22))
+                     .setProgress(values[i]);
+             auto& texted = static_cast<ProgressBar&>(
+                 card.add("MoxieLook/AlternateProgressBar", "", 10, 60, 180, 22));
+             texted.setProgress(0.6f);
+             texted.setText("60 %, with a text");
+         }},
+        {"MoxieLook/VUMeter", 150,
+         [](Card& card)
+         {
+             const float levels[] = {0.2f, 0.65f, 0.85f, 1.0f};
+             const char* captions[] = {"20 %", "65 %", "85 %", "peak"};
+             for (int i = 0; i < 4; ++i)
+                 static_cast<ProgressBar&>(
+                     card.add("MoxieLook/VUMeter", captions[i], 20 + i * 80.0f, 10, 22, 110))
+                     .setProgress(levels[i]);
+             Window& lying = card.add("MoxieLook/VUMeter", "lying, reversed", 360, 10, 200, 22);
+             lying.setProperty("VerticalProgress", "False");
+             lying.setProperty("ReversedProgress", "True");
+             static_cast<ProgressBar&>(lying).setProgress(0.75f);
          }},
     };
 }

@@ -3,6 +3,8 @@
 #include "draw/Imagery.h"
 #include "draw/TextDrawing.h"
 
+#include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <algorithm>
 #include <cmath>
 
@@ -52,6 +54,143 @@ void MXProgressBar::onProgressChanged(WindowEventArgs& e)
 {
     ProgressBar::onProgressChanged(e);
     invalidate();
+}
+
+std::vector<MeterSegment> meterSegments(const Rectf& area, float progress, float length, float gap,
+                                        bool vertical, bool reversed)
+{
+    std::vector<MeterSegment> blocks;
+    const float span = vertical ? area.getHeight() : area.getWidth();
+    if (!(length > 0) || !(span >= length) || !std::isfinite(span))
+        return blocks;
+    const auto count = static_cast<std::size_t>((span + gap) / (length + gap));
+    const float lit =
+        std::isnan(progress) ? 0 : std::round(std::clamp(progress, 0.0f, 1.0f) * count);
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        const float from = static_cast<float>(i) * (length + gap);
+        // Measured from the start end: the left, or the bottom of an upright bar.
+        const bool fromFar = vertical != reversed;
+        const float a = fromFar ? span - from - length : from;
+        const Rectf rect =
+            vertical ? Rectf(area.left(), area.top() + a, area.right(), area.top() + a + length)
+                     : Rectf(area.left() + a, area.top(), area.left() + a + length, area.bottom());
+        blocks.push_back({rect, (from + length) / span, static_cast<float>(i) < lit});
+    }
+    return blocks;
+}
+
+const Colour MXSegmentedProgressBar::UnlitColour(0x00C5CED9);
+
+MXSegmentedProgressBar::MXSegmentedProgressBar(const String& type, const String& name,
+                                               bool vertical)
+    : RedrawnWhenUncovered<ProgressBar>(type, name), d_vertical(vertical)
+{
+    setMouseCursor(&lookImage(MXProgressBar::MouseCursorImageName));
+    d_frame.setImages({"StaticFrameTopLeft", "StaticFrameTopRight", "StaticFrameBottomLeft",
+                       "StaticFrameBottomRight", "StaticFrameLeft", "StaticFrameTop",
+                       "StaticFrameRight", "StaticFrameBottom"});
+    const String propertyOrigin("MoxieLook/SegmentedProgressBar");
+    CEGUI_DEFINE_PROPERTY(MXSegmentedProgressBar, bool, "VerticalProgress",
+                          "Property to get/set whether the bar runs upwards. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXSegmentedProgressBar::setVerticalProgress,
+                          &MXSegmentedProgressBar::isVerticalProgress, vertical);
+    CEGUI_DEFINE_PROPERTY(MXSegmentedProgressBar, bool, "ReversedProgress",
+                          "Property to get/set whether the bar runs from the other end. Value "
+                          "is either \"True\" or \"False\".",
+                          &MXSegmentedProgressBar::setReversedProgress,
+                          &MXSegmentedProgressBar::isReversedProgress, false);
+}
+
+void MXSegmentedProgressBar::setVerticalProgress(bool vertical)
+{
+    d_vertical = vertical;
+    invalidate();
+}
+
+void MXSegmentedProgressBar::setReversedProgress(bool reversed)
+{
+    d_reversed = reversed;
+    invalidate();
+}
+
+Rectf MXSegmentedProgressBar::segmentArea() const
+{
+    Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    inner.d_min += Vector2f(Gap, Gap);
+    inner.d_max -= Vector2f(Gap, Gap);
+    return inner;
+}
+
+std::vector<MeterSegment> MXSegmentedProgressBar::segments() const
+{
+    return meterSegments(segmentArea(), getProgress(), segmentLength(), Gap, d_vertical,
+                         d_reversed);
+}
+
+void MXSegmentedProgressBar::populateGeometryBuffer()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const float alpha = getEffectiveAlpha();
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    lookImage("StaticFrameFill")
+        .render(buffer, d_frame.innerRect(area), nullptr,
+                withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+    d_frame.setSize(area.getSize());
+    d_frame.setColours(withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+    d_frame.draw(buffer, Vector2f(0, 0), nullptr);
+    const Image& block = lookImage(SegmentImageName);
+    for (const MeterSegment& segment : segments())
+        block.render(
+            buffer, segment.rect, nullptr,
+            ColourRect(withAlpha(segment.lit ? litColour(segment.end) : UnlitColour, alpha)));
+    if (getFont() && !getText().empty())
+        drawText(*this, buffer, getRenderedString(), area, HorzTextFormat::Centred,
+                 VertTextFormat::Centred, ColourRect(withAlpha(MXProgressBar::TextColour, alpha)),
+                 nullptr);
+}
+
+void MXSegmentedProgressBar::onProgressChanged(WindowEventArgs& e)
+{
+    ProgressBar::onProgressChanged(e);
+    invalidate();
+}
+
+const Colour MXAlternateProgressBar::LitColour(0x003B78D8);
+
+MXAlternateProgressBar::MXAlternateProgressBar(const String& type, const String& name)
+    : MXSegmentedProgressBar(type, name, false)
+{
+}
+
+float MXAlternateProgressBar::segmentLength() const
+{
+    // Blocks a little taller than wide, whichever way the bar runs.
+    const Rectf area = segmentArea();
+    return std::max(3.0f,
+                    std::floor((isVerticalProgress() ? area.getWidth() : area.getHeight()) * 0.6f));
+}
+
+Colour MXAlternateProgressBar::litColour(float) const
+{
+    return LitColour;
+}
+
+const Colour MXVUMeter::LowColour(0x002E9B44);
+const Colour MXVUMeter::HighColour(0x00F5A44A);
+const Colour MXVUMeter::PeakColour(0x00D9443C);
+
+MXVUMeter::MXVUMeter(const String& type, const String& name)
+    : MXSegmentedProgressBar(type, name, true)
+{
+}
+
+Colour MXVUMeter::litColour(float end) const
+{
+    return end <= 0.7f ? LowColour : end <= 0.9f ? HighColour : PeakColour;
 }
 
 } // namespace MoxieLook

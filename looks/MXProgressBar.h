@@ -4,11 +4,13 @@
 // text, if any, is centred over both.
 #pragma once
 
+#include "draw/NinePieceFrame.h"
 #include "draw/RedrawnWhenUncovered.h"
 #include "draw/ThreePieceBar.h"
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/ProgressBar.h>
+#include <vector>
 
 namespace CEGUI
 {
@@ -44,6 +46,85 @@ private:
 };
 
 using MXProgressBarFactory = LookFactory<MXProgressBar>;
+
+//! One block of a segmented bar, window-local, and whether the progress lights it.
+struct MeterSegment
+{
+    Rectf rect;
+    float end; //!< how far along the bar (0 to 1) the block ends
+    bool lit;
+};
+
+//! Blocks `length` pixels long with `gap` pixels between them along the bar inside `area`,
+//! from the start (the left, or the bottom when `vertical`; the other end when `reversed`);
+//! the first round(progress x count) of them are lit. Shared by drawing and tests.
+std::vector<MeterSegment> meterSegments(const Rectf& area, float progress, float length, float gap,
+                                        bool vertical, bool reversed);
+
+//! "MoxieLook/AlternateProgressBar": the progress as a row of blocks inside a static frame;
+//! "MoxieLook/VUMeter": an upright level meter whose blocks turn from green to orange to red
+//! near the top. Both take CEGUI's "VerticalProgress" and "ReversedProgress".
+class MXSegmentedProgressBar : public RedrawnWhenUncovered<ProgressBar>
+{
+public:
+    static constexpr char SegmentImageName[] = "MeterSegment";
+    static const Colour UnlitColour;
+    static constexpr float Gap = 2.0f;
+
+    void setVerticalProgress(bool vertical);
+    bool isVerticalProgress() const { return d_vertical; }
+    void setReversedProgress(bool reversed);
+    bool isReversedProgress() const { return d_reversed; }
+
+    //! Where the blocks lie, window-local.
+    Rectf segmentArea() const;
+    std::vector<MeterSegment> segments() const;
+
+protected:
+    MXSegmentedProgressBar(const String& type, const String& name, bool vertical);
+
+    //! A block's length along the bar, and its colour when lit.
+    virtual float segmentLength() const = 0;
+    virtual Colour litColour(float end) const = 0;
+
+    void populateGeometryBuffer() override;
+    void onProgressChanged(WindowEventArgs& e) override;
+
+private:
+    NinePieceFrame d_frame;
+    bool d_vertical;
+    bool d_reversed = false;
+};
+
+class MXAlternateProgressBar : public MXSegmentedProgressBar
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/AlternateProgressBar";
+    static const Colour LitColour;
+    MXAlternateProgressBar(const String& type, const String& name);
+
+protected:
+    float segmentLength() const override;
+    Colour litColour(float end) const override;
+};
+
+class MXVUMeter : public MXSegmentedProgressBar
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/VUMeter";
+    static constexpr float SegmentLength = 4.0f;
+    static const Colour LowColour;  //!< up to 70 %
+    static const Colour HighColour; //!< up to 90 %
+    static const Colour PeakColour; //!< the rest
+    MXVUMeter(const String& type, const String& name);
+
+protected:
+    float segmentLength() const override { return SegmentLength; }
+    Colour litColour(float end) const override;
+};
+
+using MXAlternateProgressBarFactory = LookFactory<MXAlternateProgressBar>;
+using MXVUMeterFactory = LookFactory<MXVUMeter>;
 
 } // namespace MoxieLook
 } // namespace CEGUI

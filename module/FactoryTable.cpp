@@ -119,6 +119,8 @@ MXSystemButtonFactory s_systemButton;
 MXComboEditboxFactory s_comboEditbox;
 MXLargeVertScrollbarThumbFactory s_largeVertScrollbarThumb;
 MXLargeVertScrollbarFactory s_largeVertScrollbar;
+MXAlternateProgressBarFactory s_alternateProgressBar;
+MXVUMeterFactory s_vuMeter;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -188,6 +190,8 @@ const std::array k_table{
     FactoryEntry{MXComboEditbox::WidgetTypeName, &s_comboEditbox, &s_editboxRenderer},
     FactoryEntry{MXLargeVertScrollbarThumb::WidgetTypeName, &s_largeVertScrollbarThumb, nullptr},
     FactoryEntry{MXLargeVertScrollbar::WidgetTypeName, &s_largeVertScrollbar, &s_scrollbarRenderer},
+    FactoryEntry{MXAlternateProgressBar::WidgetTypeName, &s_alternateProgressBar, nullptr},
+    FactoryEntry{MXVUMeter::WidgetTypeName, &s_vuMeter, nullptr},
 };
 } // namespace
 

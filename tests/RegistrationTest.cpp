@@ -33,7 +33,8 @@ const std::vector<std::string> AllTypes = {
     "MenuButton", "AnimatedStaticImage",
     // the stock skins' types, after the module's own
     "Label", "Static", "GroupBox", "TabContentPane", "TabButtonPane", "ImageButton", "IconButton",
-    "SystemButton", "ComboEditbox", "LargeVerticalScrollbarThumb", "LargeVerticalScrollbar"};
+    "SystemButton", "ComboEditbox", "LargeVerticalScrollbarThumb", "LargeVerticalScrollbar",
+    "AlternateProgressBar", "VUMeter"};
 
 std::vector<std::string> moduleTypes()
 {

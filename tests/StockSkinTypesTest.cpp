@@ -1,6 +1,7 @@
 // The types the stock CEGUI skins have beside the module's own: drawn from the family's
 // images, with the stock skins' properties, laid out for their children.
 #include "looks/MXPlainWindows.h"
+#include "looks/MXProgressBar.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 
@@ -13,6 +14,7 @@
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace CEGUI;
@@ -194,4 +196,46 @@ TEST_F(StockSkinTypesTest, TheComboEditPartAndTheBroadBarWorkAsTheirOwnTypes)
     EXPECT_EQ(bar.getScrollPosition(), 5);
     moxietest::wheel(arrow.d_x, arrow.d_y, -1);
     EXPECT_EQ(bar.getScrollPosition(), 10);
+}
+
+TEST_F(StockSkinTypesTest, SegmentedBarsLightTheirBlocksFromTheStartEnd)
+{
+    // Ten blocks of 8 with gaps of 2 in 98 pixels; 35 % lights the first four (3.5 rounds up).
+    auto blocks = meterSegments(Rectf(0, 0, 98, 10), 0.35f, 8, 2, false, false);
+    ASSERT_EQ(blocks.size(), 10u);
+    EXPECT_EQ(blocks[0].rect, Rectf(0, 0, 8, 10));
+    EXPECT_EQ(blocks[1].rect.left(), 10);
+    EXPECT_EQ(std::count_if(blocks.begin(), blocks.end(), [](auto& b) { return b.lit; }), 4);
+    EXPECT_TRUE(blocks[3].lit);
+    EXPECT_FALSE(blocks[4].lit);
+    // Upright, the first block is at the bottom; reversed, at the top.
+    blocks = meterSegments(Rectf(0, 0, 10, 98), 0.1f, 8, 2, true, false);
+    EXPECT_EQ(blocks[0].rect, Rectf(0, 90, 10, 98));
+    EXPECT_TRUE(blocks[0].lit);
+    blocks = meterSegments(Rectf(0, 0, 10, 98), 0.1f, 8, 2, true, true);
+    EXPECT_EQ(blocks[0].rect, Rectf(0, 0, 10, 8));
+    // Nothing to light, nothing to place: no numbers, no room.
+    EXPECT_FALSE(meterSegments(Rectf(0, 0, 98, 10), NAN, 8, 2, false, false)[0].lit);
+    EXPECT_TRUE(meterSegments(Rectf(0, 0, 5, 10), 1, 8, 2, false, false).empty());
+
+    // A meter at its peak: green blocks low, orange higher, red at the top.
+    auto& meter = static_cast<MXVUMeter&>(moxietest::place("MoxieLook/VUMeter", 10, 10, 22, 110));
+    meter.setProgress(1.0f);
+    const auto quads = drawnBy(meter);
+    std::vector<argb_t> blockColours;
+    for (const DrawnQuad& quad : quads)
+        if (quad.image == "MeterSegment")
+            blockColours.push_back(argb(quad.colours.d_top_left));
+    ASSERT_EQ(blockColours.size(), meter.segments().size());
+    EXPECT_EQ(blockColours.front(), 0xFF2E9B44u);
+    EXPECT_EQ(blockColours.back(), 0xFFD9443Cu);
+    EXPECT_NE(std::find(blockColours.begin(), blockColours.end(), 0xFFF5A44Au), blockColours.end());
+    meter.setProgress(0.0f);
+    for (const DrawnQuad& quad : drawnBy(meter))
+    {
+        if (quad.image == "MeterSegment")
+        {
+            EXPECT_EQ(argb(quad.colours.d_top_left), 0xFFC5CED9u);
+        }
+    }
 }

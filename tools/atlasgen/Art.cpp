@@ -568,6 +568,9 @@ void paintWidgets(Atlas& atlas)
                cairo_fill(cr);
            });
 
+    // A meter's segment: white, shaded at the foot, tinted by the looks.
+    addGradient(atlas, "MeterSegment", 4, 8, White, hex(0xC8D0DA));
+
     addGradient(atlas, "MenubarBackground", 4, 24, White, hex(0xE1E7EE));
     addBar(atlas, {"MenuItemFocusLeft", "MenuItemFocusMiddle", "MenuItemFocusRight"}, 3, 20,
            [](cairo_t* cr, double w, double h)
