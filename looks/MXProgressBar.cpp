@@ -57,25 +57,44 @@ void MXProgressBar::onProgressChanged(WindowEventArgs& e)
 }
 
 std::vector<MeterSegment> meterSegments(const Rectf& area, float progress, float length, float gap,
-                                        bool vertical, bool reversed)
+                                        bool vertical, bool reversed, const Rectf* visible)
 {
     std::vector<MeterSegment> blocks;
-    const float span = vertical ? area.getHeight() : area.getWidth();
+    const double span = vertical ? area.getHeight() : area.getWidth();
     if (!(length > 0) || !(span >= length) || !std::isfinite(span))
         return blocks;
-    const auto count = static_cast<std::size_t>((span + gap) / (length + gap));
-    const float lit =
-        std::isnan(progress) ? 0 : std::round(std::clamp(progress, 0.0f, 1.0f) * count);
-    for (std::size_t i = 0; i < count; ++i)
+    const double pitch = double(length) + gap;
+    const auto count = static_cast<std::size_t>((span + gap) / pitch);
+    // In floats, as a host's progress is: 0.35 of ten blocks lights four.
+    const double lit =
+        std::isnan(progress)
+            ? 0
+            : std::round(std::clamp(progress, 0.0f, 1.0f) * static_cast<float>(count));
+    // Measured from the start end: the left, or the bottom of an upright bar.
+    const bool fromFar = vertical != reversed;
+    const double origin = vertical ? area.top() : area.left();
+    // Only the blocks that meet what can be seen: a bar far longer than the display stays cheap.
+    std::size_t first = 0, end = count;
+    if (visible)
     {
-        const float from = static_cast<float>(i) * (length + gap);
-        // Measured from the start end: the left, or the bottom of an upright bar.
-        const bool fromFar = vertical != reversed;
-        const float a = fromFar ? span - from - length : from;
-        const Rectf rect =
-            vertical ? Rectf(area.left(), area.top() + a, area.right(), area.top() + a + length)
-                     : Rectf(area.left() + a, area.top(), area.left() + a + length, area.bottom());
-        blocks.push_back({rect, (from + length) / span, static_cast<float>(i) < lit});
+        const double lo = (vertical ? visible->top() : visible->left()) - origin;
+        const double hi = (vertical ? visible->bottom() : visible->right()) - origin;
+        // Offsets from the start end of the span [lo, hi] covers.
+        const double nearEnd = fromFar ? span - hi : lo;
+        const double farEnd = fromFar ? span - lo : hi;
+        first =
+            static_cast<std::size_t>(std::clamp(std::floor(nearEnd / pitch), 0.0, double(count)));
+        end =
+            static_cast<std::size_t>(std::clamp(std::ceil(farEnd / pitch), 0.0, double(count)));
+    }
+    for (std::size_t i = first; i < end; ++i)
+    {
+        const double from = double(i) * pitch;
+        const double a = origin + (fromFar ? span - from - length : from);
+        const auto lo = static_cast<float>(a), hi = static_cast<float>(a + length);
+        const Rectf rect = vertical ? Rectf(area.left(), lo, area.right(), hi)
+                                    : Rectf(lo, area.top(), hi, area.bottom());
+        blocks.push_back({rect, static_cast<float>((from + length) / span), double(i) < lit});
     }
     return blocks;
 }
@@ -129,6 +148,13 @@ std::vector<MeterSegment> MXSegmentedProgressBar::segments() const
                          d_reversed);
 }
 
+std::vector<MeterSegment> MXSegmentedProgressBar::segmentsInView()
+{
+    const Rectf seen = seenForDrawing();
+    return meterSegments(segmentArea(), getProgress(), segmentLength(), Gap, d_vertical, d_reversed,
+                         &seen);
+}
+
 void MXSegmentedProgressBar::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
@@ -143,7 +169,7 @@ void MXSegmentedProgressBar::populateGeometryBuffer()
     d_frame.setColours(withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
     const Image& block = lookImage(SegmentImageName);
-    for (const MeterSegment& segment : segments())
+    for (const MeterSegment& segment : segmentsInView())
         block.render(
             buffer, segment.rect, nullptr,
             ColourRect(withAlpha(segment.lit ? litColour(segment.end) : UnlitColour, alpha)));

@@ -57,9 +57,11 @@ struct MeterSegment
 
 //! Blocks `length` pixels long with `gap` pixels between them along the bar inside `area`,
 //! from the start (the left, or the bottom when `vertical`; the other end when `reversed`);
-//! the first round(progress x count) of them are lit. Shared by drawing and tests.
+//! the first round(progress x count) of them are lit. With `visible`, only the blocks that
+//! meet it. Shared by drawing and tests.
 std::vector<MeterSegment> meterSegments(const Rectf& area, float progress, float length, float gap,
-                                        bool vertical, bool reversed);
+                                        bool vertical, bool reversed,
+                                        const Rectf* visible = nullptr);
 
 //! "MoxieLook/AlternateProgressBar": the progress as a row of blocks inside a static frame;
 //! "MoxieLook/VUMeter": an upright level meter whose blocks turn from green to orange to red
@@ -79,6 +81,8 @@ public:
     //! Where the blocks lie, window-local.
     Rectf segmentArea() const;
     std::vector<MeterSegment> segments() const;
+    //! The blocks that can be seen now, as drawn.
+    std::vector<MeterSegment> segmentsInView();
 
 protected:
     MXSegmentedProgressBar(const String& type, const String& name, bool vertical);

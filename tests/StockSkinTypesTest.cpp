@@ -239,3 +239,25 @@ TEST_F(StockSkinTypesTest, SegmentedBarsLightTheirBlocksFromTheStartEnd)
         }
     }
 }
+
+TEST_F(StockSkinTypesTest, ASegmentedBarFarLongerThanTheDisplayDrawsTheBlocksInView)
+{
+    // Asked for what can be seen, the blocks are those that meet it, numbered as in the whole.
+    const Rectf visible(500, 0, 540, 10);
+    const auto seen = meterSegments(Rectf(0, 0, 98, 10), 1, 8, 2, false, false, &visible);
+    EXPECT_TRUE(seen.empty());
+    const auto all = meterSegments(Rectf(0, 0, 1e6f, 10), 0.5f, 8, 2, false, false);
+    const auto some = meterSegments(Rectf(0, 0, 1e6f, 10), 0.5f, 8, 2, false, false, &visible);
+    ASSERT_FALSE(some.empty());
+    EXPECT_LE(some.size(), 6u);
+    for (const MeterSegment& block : some)
+    {
+        EXPECT_TRUE(block.rect.right() > visible.left() - 10 &&
+                    block.rect.left() < visible.right());
+        const auto index = static_cast<std::size_t>(block.rect.left() / 10);
+        EXPECT_EQ(block.rect, all[index].rect);
+        EXPECT_EQ(block.lit, all[index].lit);
+    }
+    Window& meter = moxietest::place("MoxieLook/VUMeter", 10, 10, 22, 2e9f);
+    EXPECT_LT(drawnBy(meter).size(), 200u);
+}
