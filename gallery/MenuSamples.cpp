@@ -31,25 +31,26 @@ PopupMenu& popupOf(MenuItem& owner)
 // A menu bar with File, Edit and View; File's menu holds a sub-menu, a check mark, a
 // separator and a disabled item.
 Menubar& menuBar(Card& card, const String& caption, float x, MenuItem** file, MenuItem** recent,
-                 MenuItem** hovered)
+                 MenuItem** hovered, const char* barItem = "MoxieLook/MenubarItem",
+                 const char* popupItem = "MoxieLook/PopupMenuItem")
 {
     auto& bar = static_cast<Menubar&>(card.add("MoxieLook/Menubar", caption, x, 10, 280, 26));
-    *file = &item(bar, "MoxieLook/MenubarItem", "File");
-    item(bar, "MoxieLook/MenubarItem", "Edit");
-    item(bar, "MoxieLook/MenubarItem", "View");
+    *file = &item(bar, barItem, "File");
+    item(bar, barItem, "Edit");
+    item(bar, barItem, "View");
     PopupMenu& fileMenu = popupOf(**file);
-    item(fileMenu, "MoxieLook/PopupMenuItem", "New");
-    *hovered = &item(fileMenu, "MoxieLook/PopupMenuItem", "Open...");
-    *recent = &item(fileMenu, "MoxieLook/PopupMenuItem", "Recent files");
-    item(fileMenu, "MoxieLook/PopupMenuItem", "Save").setEnabled(false);
-    MenuItem& autosave = item(fileMenu, "MoxieLook/PopupMenuItem", "Save automatically");
+    item(fileMenu, popupItem, "New");
+    *hovered = &item(fileMenu, popupItem, "Open...");
+    *recent = &item(fileMenu, popupItem, "Recent files");
+    item(fileMenu, popupItem, "Save").setEnabled(false);
+    MenuItem& autosave = item(fileMenu, popupItem, "Save automatically");
     autosave.setSelectable(true);
     autosave.setSelected(true);
-    item(fileMenu, "MoxieLook/PopupMenuItem", "");
-    item(fileMenu, "MoxieLook/PopupMenuItem", "Quit");
+    item(fileMenu, popupItem, "");
+    item(fileMenu, popupItem, "Quit");
     PopupMenu& recentMenu = popupOf(**recent);
-    item(recentMenu, "MoxieLook/PopupMenuItem", "report.txt");
-    item(recentMenu, "MoxieLook/PopupMenuItem", "notes.txt");
+    item(recentMenu, popupItem, "report.txt");
+    item(recentMenu, popupItem, "notes.txt");
     return bar;
 }
 } // namespace
@@ -101,6 +102,21 @@ std::vector<Sample> menuSamples()
              checked.setSelected(true);
              item(popup, "MoxieLook/PopupMenuItem", "Disabled").setEnabled(false);
              card.whenShown([&popup] { popup.openPopupMenu(); });
+         }},
+        {"MoxieLook/MenuItem", 230,
+         [](Card& card)
+         {
+             // One item type for the bar and the pop-ups alike, as the stock skins have it.
+             MenuItem *file = nullptr, *recent = nullptr, *hovered = nullptr;
+             menuBar(card, "", 10, &file, &recent, &hovered, "MoxieLook/MenuItem",
+                     "MoxieLook/MenuItem");
+             card.hoverOn(*hovered);
+             card.whenShown(
+                 [file, recent]
+                 {
+                     file->openPopupMenu();
+                     recent->openPopupMenu();
+                 });
          }},
     };
 }

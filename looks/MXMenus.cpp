@@ -201,29 +201,39 @@ MXMenubarItem::MXMenubarItem(const String& type, const String& name)
     setWindowRenderer(MXMenuItemRenderer::TypeName);
 }
 
-Sizef MXMenubarItem::itemPixelSize() const
+Sizef MXMenubarItem::barItemSize(const MenuItem& item)
 {
-    const Font* font = getFont();
+    const Font* font = item.getFont();
     if (!font)
         return Sizef(2 * HorzPadding, 2 * VertPadding);
-    return Sizef(std::ceil(font->getTextExtent(getTextVisual())) + 2 * HorzPadding,
+    return Sizef(std::ceil(font->getTextExtent(item.getTextVisual())) + 2 * HorzPadding,
                  std::ceil(font->getLineSpacing()) + 2 * VertPadding);
+}
+
+void MXMenubarItem::drawBarItem(MenuItem& item)
+{
+    if (!hasVisibleArea(item))
+        return;
+    const MenuItemState state = menuItemStateOf(item);
+    const Rectf area(Vector2f(0, 0), item.getPixelSize());
+    drawBand(item, state, area);
+    if (const Font* font = item.getFont())
+    {
+        const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
+        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
+        font->drawText(item.getGeometryBuffer(), item.getTextVisual(), Vector2f(HorzPadding, top),
+                       nullptr, ColourRect(withAlpha(colour, item.getEffectiveAlpha())));
+    }
+}
+
+Sizef MXMenubarItem::itemPixelSize() const
+{
+    return barItemSize(*this);
 }
 
 void MXMenubarItem::drawItem()
 {
-    if (!hasVisibleArea(*this))
-        return;
-    const MenuItemState state = menuItemStateOf(*this);
-    const Rectf area(Vector2f(0, 0), getPixelSize());
-    drawBand(*this, state, area);
-    if (const Font* font = getFont())
-    {
-        const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
-        font->drawText(getGeometryBuffer(), getTextVisual(), Vector2f(HorzPadding, top), nullptr,
-                       ColourRect(withAlpha(colour, getEffectiveAlpha())));
-    }
+    drawBarItem(*this);
 }
 
 void MXMenubarItem::onFontChanged(WindowEventArgs& e)
@@ -306,6 +316,40 @@ void MXPopupMenuItem::onFontChanged(WindowEventArgs& e)
 {
     RedrawnWhenUncovered<MenuItem>::onFontChanged(e);
     itemChangedSize(*this);
+}
+
+// --- items for bars and pop-ups alike ----------------------------------------------------
+
+bool MXMenuItem::isOnBar() const
+{
+    return dynamic_cast<const Menubar*>(getParent()) != nullptr;
+}
+
+Sizef MXMenuItem::itemPixelSize() const
+{
+    return isOnBar() ? MXMenubarItem::barItemSize(*this) : MXPopupMenuItem::itemPixelSize();
+}
+
+void MXMenuItem::drawItem()
+{
+    if (isOnBar())
+        MXMenubarItem::drawBarItem(*this);
+    else
+        MXPopupMenuItem::drawItem();
+}
+
+bool MXMenuItem::isHit(const Vector2f& position, const bool allowDisabled) const
+{
+    // On a bar an empty text is an item still, not a separator.
+    return isOnBar() ? RedrawnWhenUncovered<MenuItem>::isHit(position, allowDisabled)
+                     : MXPopupMenuItem::isHit(position, allowDisabled);
+}
+
+void MXMenuItem::setParent(Element* parent)
+{
+    MXPopupMenuItem::setParent(parent);
+    // A bar opens its pop-ups by click, a pop-up its sub-menus by resting on them.
+    setAutoPopupTimeout(isOnBar() ? 0.0f : SubMenuDelay);
 }
 
 } // namespace MoxieLook

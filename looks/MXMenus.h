@@ -130,6 +130,10 @@ public:
     Sizef itemPixelSize() const override;
     void drawItem() override;
 
+    //! How any menu item measures and draws on a bar.
+    static Sizef barItemSize(const MenuItem& item);
+    static void drawBarItem(MenuItem& item);
+
 protected:
     void onFontChanged(WindowEventArgs& e) override;
 };
@@ -158,6 +162,24 @@ public:
 
 protected:
     void onFontChanged(WindowEventArgs& e) override;
+};
+
+//! "MoxieLook/MenuItem": CEGUI's menu item as the stock skins have it, one type for bars and
+//! pop-ups alike: on a menu bar it measures and draws as a bar item (and opens its pop-up by
+//! click), elsewhere as a pop-up item.
+class MXMenuItem : public MXPopupMenuItem
+{
+public:
+    static constexpr char WidgetTypeName[] = "MoxieLook/MenuItem";
+
+    using MXPopupMenuItem::MXPopupMenuItem;
+    bool isOnBar() const;
+    Sizef itemPixelSize() const override;
+    void drawItem() override;
+    bool isHit(const Vector2f& position, const bool allowDisabled = false) const override;
+
+protected:
+    void setParent(Element* parent) override;
 };
 
 class MXItemListRenderer : public LookRenderer<ItemListBaseWindowRenderer, ItemListLook>
@@ -198,6 +220,7 @@ using MXMenubarFactory = LookFactory<MXMenubar>;
 using MXPopupMenuFactory = LookFactory<MXPopupMenu>;
 using MXMenubarItemFactory = LookFactory<MXMenubarItem>;
 using MXPopupMenuItemFactory = LookFactory<MXPopupMenuItem>;
+using MXMenuItemFactory = LookFactory<MXMenuItem>;
 using MXItemListRendererFactory = LookRendererFactory<MXItemListRenderer>;
 using MXMenuItemRendererFactory = LookRendererFactory<MXMenuItemRenderer>;
 

@@ -121,6 +121,7 @@ MXLargeVertScrollbarThumbFactory s_largeVertScrollbarThumb;
 MXLargeVertScrollbarFactory s_largeVertScrollbar;
 MXAlternateProgressBarFactory s_alternateProgressBar;
 MXVUMeterFactory s_vuMeter;
+MXMenuItemFactory s_menuItem;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -192,6 +193,7 @@ const std::array k_table{
     FactoryEntry{MXLargeVertScrollbar::WidgetTypeName, &s_largeVertScrollbar, &s_scrollbarRenderer},
     FactoryEntry{MXAlternateProgressBar::WidgetTypeName, &s_alternateProgressBar, nullptr},
     FactoryEntry{MXVUMeter::WidgetTypeName, &s_vuMeter, nullptr},
+    FactoryEntry{MXMenuItem::WidgetTypeName, &s_menuItem, &s_menuItemRenderer},
 };
 } // namespace
 

@@ -10,6 +10,9 @@
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/DefaultWindow.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/MenuItem.h>
+#include <CEGUI/widgets/Menubar.h>
+#include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
@@ -260,4 +263,40 @@ TEST_F(StockSkinTypesTest, ASegmentedBarFarLongerThanTheDisplayDrawsTheBlocksInV
     }
     Window& meter = moxietest::place("MoxieLook/VUMeter", 10, 10, 22, 2e9f);
     EXPECT_LT(drawnBy(meter).size(), 200u);
+}
+
+TEST_F(StockSkinTypesTest, OneMenuItemTypeServesBarsAndPopupsAlike)
+{
+    WindowManager& windows = WindowManager::getSingleton();
+    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 26));
+    auto make = [&](Window& parent, const char* type, const String& text)
+    {
+        auto* item = static_cast<MenuItem*>(windows.createWindow(type));
+        item->setText(text);
+        parent.addChild(item);
+        return item;
+    };
+    MenuItem* file = make(bar, "MoxieLook/MenuItem", "File");
+    MenuItem* edit = make(bar, "MoxieLook/MenubarItem", "File");
+    auto* popup = static_cast<PopupMenu*>(windows.createWindow("MoxieLook/PopupMenu"));
+    file->addChild(popup);
+    MenuItem* open = make(*popup, "MoxieLook/MenuItem", "Open...");
+    MenuItem* twin = make(*popup, "MoxieLook/PopupMenuItem", "Open...");
+    int clicks = 0;
+    open->subscribeEvent(MenuItem::EventClicked, [&clicks] { ++clicks; });
+
+    // Measured as the bar's own items on the bar, as the pop-up's in the pop-up.
+    drawnBy(bar);
+    EXPECT_EQ(file->getPixelSize(), edit->getPixelSize());
+    EXPECT_EQ(file->getAutoPopupTimeout(), 0.0f); // a bar opens by click
+    const Vector2f at = moxietest::centreOf(*file);
+    moxietest::click(at.d_x, at.d_y);
+    ASSERT_TRUE(popup->isVisible());
+    drawnBy(*popup);
+    EXPECT_EQ(open->getPixelSize(), twin->getPixelSize());
+    EXPECT_GT(open->getAutoPopupTimeout(), 0.0f);
+    const Vector2f item = moxietest::centreOf(*open);
+    moxietest::click(item.d_x, item.d_y);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_FALSE(popup->isVisible());
 }
