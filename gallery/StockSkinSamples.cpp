@@ -3,7 +3,10 @@
 #include "Samples.h"
 
 #include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ItemEntry.h>
+#include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/ProgressBar.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
@@ -15,6 +18,16 @@ using namespace CEGUI;
 namespace
 {
 using State = Card::State;
+
+// An item window with `text` at the end of `list`.
+ItemEntry& entry(ItemListbox& list, const String& text)
+{
+    auto& item = static_cast<ItemEntry&>(
+        *WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem"));
+    item.setText(text);
+    list.addItem(&item);
+    return item;
+}
 
 // Each state's window, in the order `states` made them, given `property` = `value`.
 void setOnAll(Card& card, std::size_t first, const String& property, const String& value)
@@ -159,6 +172,32 @@ std::vector<Sample> stockSkinSamples()
              lying.setProperty("VerticalProgress", "False");
              lying.setProperty("ReversedProgress", "True");
              static_cast<ProgressBar&>(lying).setProgress(0.75f);
+         }},
+        {"MoxieLook/ItemListbox", 140,
+         [](Card& card)
+         {
+             auto& list = static_cast<ItemListbox&>(
+                 card.add("MoxieLook/ItemListbox", "a selection, a scroll bar", 10, 10, 200, 110));
+             const char* planets[] = {"Mercury", "Venus",  "Earth",  "Mars",
+                                      "Jupiter", "Saturn", "Uranus", "Neptune"};
+             for (const char* planet : planets)
+                 entry(list, planet);
+             list.getItemFromIndex(2)->setSelected(true);
+             auto& few = static_cast<ItemListbox&>(
+                 card.add("MoxieLook/ItemListbox", "hover", 240, 10, 200, 110));
+             entry(few, "Apples");
+             card.hoverOn(entry(few, "Bananas"));
+             entry(few, "Cherries");
+         }},
+        {"MoxieLook/ListboxItem", 110,
+         [](Card& card)
+         {
+             auto& list =
+                 static_cast<ItemListbox&>(card.add("MoxieLook/ItemListbox", "", 10, 10, 200, 90));
+             entry(list, "Normal");
+             card.hoverOn(entry(list, "Hover"));
+             entry(list, "Selected").setSelected(true);
+             entry(list, "Disabled").setEnabled(false);
          }},
     };
 }

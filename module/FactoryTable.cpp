@@ -8,6 +8,7 @@
 #include "looks/MXDiagram.h"
 #include "looks/MXEditbox.h"
 #include "looks/MXFrameWindow.h"
+#include "looks/MXItemListbox.h"
 #include "looks/MXListHeader.h"
 #include "looks/MXListbox.h"
 #include "looks/MXMenus.h"
@@ -122,6 +123,8 @@ MXLargeVertScrollbarFactory s_largeVertScrollbar;
 MXAlternateProgressBarFactory s_alternateProgressBar;
 MXVUMeterFactory s_vuMeter;
 MXMenuItemFactory s_menuItem;
+MXListboxItemFactory s_listboxItem;
+MXItemListboxFactory s_itemListbox;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -194,6 +197,8 @@ const std::array k_table{
     FactoryEntry{MXAlternateProgressBar::WidgetTypeName, &s_alternateProgressBar, nullptr},
     FactoryEntry{MXVUMeter::WidgetTypeName, &s_vuMeter, nullptr},
     FactoryEntry{MXMenuItem::WidgetTypeName, &s_menuItem, &s_menuItemRenderer},
+    FactoryEntry{MXListboxItem::WidgetTypeName, &s_listboxItem, &s_menuItemRenderer},
+    FactoryEntry{MXItemListbox::WidgetTypeName, &s_itemListbox, &s_itemListRenderer},
 };
 } // namespace
 

@@ -7,9 +7,12 @@
 
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/DefaultWindow.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ItemEntry.h>
+#include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/MenuItem.h>
 #include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/PopupMenu.h>
@@ -299,4 +302,56 @@ TEST_F(StockSkinTypesTest, OneMenuItemTypeServesBarsAndPopupsAlike)
     moxietest::click(item.d_x, item.d_y);
     EXPECT_EQ(clicks, 1);
     EXPECT_FALSE(popup->isVisible());
+}
+
+TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
+{
+    auto& list =
+        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 10, 10, 200, 110));
+    for (int i = 0; i < 12; ++i)
+    {
+        Window* item = WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem");
+        item->setText("Item " + PropertyHelper<int>::toString(i));
+        list.addItem(static_cast<ItemEntry*>(item));
+    }
+    int changes = 0;
+    list.subscribeEvent(ItemListbox::EventSelectionChanged, [&changes] { ++changes; });
+    drawnBy(list);
+    Scrollbar* bar = list.getVertScrollbar();
+    ASSERT_TRUE(bar->isVisible()); // twelve rows do not fit
+
+    // The items lie inside the frame, clear of the bar.
+    ItemEntry* third = list.getItemFromIndex(2);
+    const Rectf row = third->getUnclippedOuterRect().get();
+    const Rectf barRect = bar->getUnclippedOuterRect().get();
+    EXPECT_GT(row.left(), 10);
+    EXPECT_LE(row.right(), barRect.left());
+
+    const Vector2f at = moxietest::centreOf(*third);
+    moxietest::click(at.d_x, at.d_y);
+    EXPECT_EQ(list.getFirstSelectedItem(), third);
+    EXPECT_GE(changes, 1); // CEGUI's list reports the old selection going, then the new one
+    changes = 0;
+    const auto quads = drawnBy(*third);
+    ASSERT_FALSE(quads.empty());
+    EXPECT_EQ(quads.front().image, "ListboxSelectionBrush");
+    EXPECT_EQ(quads.front().rect.getWidth(), row.getWidth());
+
+    // The wheel moves the items; a click then picks the item now under the pointer.
+    moxietest::wheel(at.d_x, at.d_y, -1);
+    EXPECT_GT(bar->getScrollPosition(), 0);
+    drawnBy(list);
+    Window* under = moxietest::context().getRootWindow()->getTargetChildAtPosition(at);
+    ASSERT_NE(under, nullptr);
+    ASSERT_NE(under, third);
+    moxietest::click(at.d_x, at.d_y);
+    EXPECT_EQ(list.getFirstSelectedItem(), under);
+    EXPECT_GE(changes, 1);
+    EXPECT_FALSE(third->isSelected());
+    // The item the pointer rests on shows the hover brush; the one it left, none.
+    ItemEntry* below = list.getItemFromIndex(list.getItemIndex(static_cast<ItemEntry*>(under)) + 1);
+    const Vector2f over = moxietest::centreOf(*below);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    EXPECT_EQ(moxietest::imageNames(drawnBy(*below)).front(), "ListboxHoverBrush");
+    EXPECT_EQ(moxietest::imageNames(drawnBy(*under)).front(), "ListboxSelectionBrush");
 }

@@ -1,0 +1,195 @@
+#include "looks/MXItemListbox.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+#include "looks/ListDrawing.h"
+#include "looks/MXListbox.h"
+
+#include <CEGUI/Font.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/widgets/Scrollbar.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+std::array<const char*, NinePieceFrame::PieceCount> listFramePieces()
+{
+    return {"StaticFrameListTopLeft",     "StaticFrameListTopRight", "StaticFrameListBottomLeft",
+            "StaticFrameListBottomRight", "StaticFrameListLeft",     "StaticFrameListTop",
+            "StaticFrameListRight",       "StaticFrameListBottom"};
+}
+} // namespace
+
+MXItemListbox::MXItemListbox(const String& type, const String& name)
+    : RedrawnWhenUncovered<ItemListbox>(type, name)
+{
+    setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
+    setWindowRenderer(MXItemListRenderer::TypeName);
+    d_frame.setImages(listFramePieces());
+}
+
+void MXItemListbox::initialiseComponents()
+{
+    // A list from a layout file may bring its bars already.
+    const std::pair<const String*, const char*> bars[] = {{&VertScrollbarName, VertScrollbarType},
+                                                          {&HorzScrollbarName, HorzScrollbarType}};
+    for (const auto& [name, type] : bars)
+        if (!isChild(*name))
+        {
+            Scrollbar* bar = createAutoPart<Scrollbar>(type, *name, "an item list's scroll bar");
+            bar->setNonClient(true);
+            addChild(bar);
+        }
+    RedrawnWhenUncovered<ItemListbox>::initialiseComponents();
+    // CEGUI shows and hides the bars after the layout: each one's length depends on the other.
+    for (Scrollbar* bar : {getVertScrollbar(), getHorzScrollbar()})
+        for (const String* event : {&Window::EventShown, &Window::EventHidden})
+            bar->subscribeEvent(*event, [this] { layOutBars(); });
+    layOutBars();
+}
+
+void MXItemListbox::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    RedrawnWhenUncovered<ItemListbox>::performChildWindowLayout(nonclientSizedHint,
+                                                                clientSizedHint);
+    layOutBars();
+}
+
+void MXItemListbox::layOutBars()
+{
+    Window* vert = partOrNull(*this, VertScrollbarName);
+    Window* horz = partOrNull(*this, HorzScrollbarName);
+    if (!vert || !horz)
+        return;
+    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    const float t = ScrollbarThickness;
+    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
+    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
+    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
+                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
+    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
+                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+}
+
+Rectf MXItemListbox::itemRenderArea() const
+{
+    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    const Window* vert = partOrNull(*this, VertScrollbarName);
+    const Window* horz = partOrNull(*this, HorzScrollbarName);
+    if (vert && vert->isVisible())
+        area.d_max.d_x -= ScrollbarThickness;
+    if (horz && horz->isVisible())
+        area.d_max.d_y -= ScrollbarThickness;
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
+    return area;
+}
+
+Rectf MXItemListbox::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
+{
+    Rectf area = itemRenderArea();
+    area.offset((skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
+                                       : getUnclippedOuterRect().get())
+                    .d_min);
+    return area;
+}
+
+void MXItemListbox::drawList()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
+    lookImage(MXListbox::FillImageName).render(buffer, d_frame.innerRect(area), nullptr, white);
+    d_frame.setSize(area.getSize());
+    d_frame.setColours(white);
+    d_frame.draw(buffer, Vector2f(0, 0), nullptr);
+}
+
+const Colour MXListboxItem::TextColour(0x0026313D);
+// As the list box shows its selected items: ink on the light brush.
+const Colour MXListboxItem::SelectedTextColour(0x0026313D);
+const Colour MXListboxItem::DisabledTextColour(0x00888888);
+
+MXListboxItem::MXListboxItem(const String& type, const String& name)
+    : RedrawnWhenUncovered<ItemEntry>(type, name)
+{
+    setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
+    setWindowRenderer(MXMenuItemRenderer::TypeName);
+    setSelectable(true);
+    // What an item does not take (the wheel) goes on to its list, as CEGUI's skins have it.
+    setMouseInputPropagationEnabled(true);
+}
+
+Sizef MXListboxItem::itemPixelSize() const
+{
+    const Font* font = getFont();
+    if (!font)
+        return Sizef(2 * HorzPadding, 2 * VertPadding);
+    return Sizef(std::ceil(font->getTextExtent(getTextVisual())) + 2 * HorzPadding,
+                 std::ceil(font->getLineSpacing()) + 2 * VertPadding);
+}
+
+void MXListboxItem::drawItem()
+{
+    if (!hasVisibleArea(*this))
+        return;
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const float alpha = getEffectiveAlpha();
+    // The brushes span the list's width, however narrow the text.
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    const bool selected = isSelectable() && isSelected();
+    if (selected || d_hovered)
+        lookImage(selected ? ListDrawing::SelectionBrushImageName
+                           : ListDrawing::HoverBrushImageName)
+            .render(buffer, area, nullptr, withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+    const Font* font = getFont();
+    if (!font)
+        return;
+    const Colour& colour = isEffectiveDisabled() ? DisabledTextColour
+                           : selected            ? SelectedTextColour
+                                                 : TextColour;
+    const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
+    font->drawText(buffer, getTextVisual(), Vector2f(HorzPadding, top), nullptr,
+                   ColourRect(withAlpha(colour, alpha)));
+}
+
+void MXListboxItem::onMouseEnters(MouseEventArgs& e)
+{
+    RedrawnWhenUncovered<ItemEntry>::onMouseEnters(e);
+    d_hovered = true;
+    invalidate();
+}
+
+void MXListboxItem::onMouseLeaves(MouseEventArgs& e)
+{
+    RedrawnWhenUncovered<ItemEntry>::onMouseLeaves(e);
+    d_hovered = false;
+    invalidate();
+}
+
+void MXListboxItem::onTextChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<ItemEntry>::onTextChanged(e);
+    sizeChanged();
+}
+
+void MXListboxItem::onFontChanged(WindowEventArgs& e)
+{
+    RedrawnWhenUncovered<ItemEntry>::onFontChanged(e);
+    sizeChanged();
+}
+
+void MXListboxItem::sizeChanged()
+{
+    invalidate();
+    if (ItemListBase* list = getOwnerList())
+        list->handleUpdatedItemData();
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
