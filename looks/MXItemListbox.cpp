@@ -7,6 +7,7 @@
 
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Scrollbar.h>
 
 namespace CEGUI
@@ -29,6 +30,14 @@ MXItemListbox::MXItemListbox(const String& type, const String& name)
     setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
     d_frame.setImages(listFramePieces());
+}
+
+MXItemListbox::~MXItemListbox()
+{
+    // CEGUI's list destroys its content pane again after its children went, pane included,
+    // and logs an error for every list; a pane already gone is not asked for again.
+    if (d_pane && d_pane != this && !WindowManager::getSingleton().isAlive(d_pane))
+        d_pane = nullptr;
 }
 
 void MXItemListbox::initialiseComponents()

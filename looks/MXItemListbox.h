@@ -25,6 +25,7 @@ public:
     static constexpr float ScrollbarThickness = 16.0f;
 
     MXItemListbox(const String& type, const String& name);
+    ~MXItemListbox() override;
 
     void initialiseComponents() override;
     void performChildWindowLayout(bool nonclientSizedHint = false,
