@@ -10,6 +10,8 @@
 #include <CEGUI/widgets/ProgressBar.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
+#include <CEGUI/widgets/Tree.h>
+#include <CEGUI/widgets/TreeItem.h>
 
 namespace gallery
 {
@@ -198,6 +200,22 @@ std::vector<Sample> stockSkinSamples()
              card.hoverOn(entry(list, "Hover"));
              entry(list, "Selected").setSelected(true);
              entry(list, "Disabled").setEnabled(false);
+         }},
+        {"MoxieLook/Tree", 160,
+         [](Card& card)
+         {
+             auto& tree = static_cast<Tree&>(card.add(
+                 "MoxieLook/Tree", "branches open and closed, a selection", 10, 10, 240, 140));
+             auto* fruit = new TreeItem("Fruit");
+             tree.addItem(fruit);
+             for (const char* name : {"Apples", "Bananas", "Cherries"})
+                 fruit->addItem(new TreeItem(name));
+             fruit->toggleIsOpen();
+             fruit->getTreeItemFromIndex(1)->setSelected(true);
+             auto* vegetables = new TreeItem("Vegetables");
+             tree.addItem(vegetables);
+             vegetables->addItem(new TreeItem("Carrots"));
+             tree.addItem(new TreeItem("Bread"));
          }},
     };
 }

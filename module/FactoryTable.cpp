@@ -30,6 +30,7 @@
 #include "looks/MXTaskbar.h"
 #include "looks/MXTitlebar.h"
 #include "looks/MXTooltip.h"
+#include "looks/MXTree.h"
 #include "looks/MXTreeView.h"
 #include "looks/MXTreeViewMultiColumnListEx.h"
 #include "looks/MXWidgetDropDownList.h"
@@ -125,6 +126,7 @@ MXVUMeterFactory s_vuMeter;
 MXMenuItemFactory s_menuItem;
 MXListboxItemFactory s_listboxItem;
 MXItemListboxFactory s_itemListbox;
+MXTreeFactory s_tree;
 
 // A type joins the module with one line here (and one in MoxieLook.scheme).
 const std::array k_table{
@@ -199,6 +201,7 @@ const std::array k_table{
     FactoryEntry{MXMenuItem::WidgetTypeName, &s_menuItem, &s_menuItemRenderer},
     FactoryEntry{MXListboxItem::WidgetTypeName, &s_listboxItem, &s_menuItemRenderer},
     FactoryEntry{MXItemListbox::WidgetTypeName, &s_itemListbox, &s_itemListRenderer},
+    FactoryEntry{MXTree::WidgetTypeName, &s_tree, nullptr},
 };
 } // namespace
 

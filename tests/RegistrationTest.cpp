@@ -34,7 +34,7 @@ const std::vector<std::string> AllTypes = {
     // the stock skins' types, after the module's own
     "Label", "Static", "GroupBox", "TabContentPane", "TabButtonPane", "ImageButton", "IconButton",
     "SystemButton", "ComboEditbox", "LargeVerticalScrollbarThumb", "LargeVerticalScrollbar",
-    "AlternateProgressBar", "VUMeter", "MenuItem", "ListboxItem", "ItemListbox"};
+    "AlternateProgressBar", "VUMeter", "MenuItem", "ListboxItem", "ItemListbox", "Tree"};
 
 std::vector<std::string> moduleTypes()
 {

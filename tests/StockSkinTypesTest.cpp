@@ -19,6 +19,8 @@
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
+#include <CEGUI/widgets/Tree.h>
+#include <CEGUI/widgets/TreeItem.h>
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -354,4 +356,51 @@ TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
     moxietest::pointerTo(over.d_x, over.d_y);
     EXPECT_EQ(moxietest::imageNames(drawnBy(*below)).front(), "ListboxHoverBrush");
     EXPECT_EQ(moxietest::imageNames(drawnBy(*under)).front(), "ListboxSelectionBrush");
+}
+
+TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkField)
+{
+    auto& tree = static_cast<Tree&>(moxietest::place("MoxieLook/Tree", 10, 10, 240, 140));
+    auto* fruit = new TreeItem("Fruit");
+    tree.addItem(fruit);
+    for (const char* name : {"Apples", "Bananas"})
+        fruit->addItem(new TreeItem(name));
+    auto* bread = new TreeItem("Bread");
+    tree.addItem(bread);
+    int opened = 0, selections = 0;
+    tree.subscribeEvent(Tree::EventBranchOpened, [&opened] { ++opened; });
+    tree.subscribeEvent(Tree::EventSelectionChanged, [&selections] { ++selections; });
+
+    auto quads = drawnBy(tree);
+    ASSERT_GE(quads.size(), 10u);
+    EXPECT_EQ(quads[0].image, "TreeViewFill");
+    EXPECT_EQ(quads[1].image, "StaticFrameListTopLeft");
+    const DrawnQuad* closed = find(quads, "NavigateClose");
+    ASSERT_NE(closed, nullptr); // Fruit's branch, closed
+    EXPECT_EQ(find(quads, "NavigateOpen"), nullptr);
+
+    // A click on the branch button opens it; the items under it show.
+    const Vector2f origin = tree.getUnclippedOuterRect().get().d_min;
+    const Vector2f button = origin + (closed->rect.d_min + closed->rect.d_max) * 0.5f;
+    moxietest::click(button.d_x, button.d_y);
+    EXPECT_TRUE(fruit->getIsOpen());
+    EXPECT_EQ(opened, 1);
+    quads = drawnBy(tree);
+    EXPECT_NE(find(quads, "NavigateOpen"), nullptr);
+    // Four rows of text now: the glyph runs reach the fourth row.
+    float textBottom = 0;
+    for (const DrawnQuad& quad : quads)
+        if (quad.image == "text")
+            textBottom = std::max(textBottom, quad.rect.bottom());
+    EXPECT_GT(textBottom, 3 * fruit->getPixelSize().d_height);
+
+    // A click on an item's text selects it, under the accent-tinted brush.
+    const float row = fruit->getPixelSize().d_height;
+    moxietest::click(origin.d_x + 60, button.d_y + 2 * row); // "Bananas"
+    EXPECT_EQ(selections, 1);
+    ASSERT_NE(tree.getFirstSelectedItem(), nullptr);
+    EXPECT_EQ(tree.getFirstSelectedItem()->getText(), "Bananas");
+    const DrawnQuad* brush = find(drawnBy(tree), "ListboxSelectionBrush");
+    ASSERT_NE(brush, nullptr);
+    EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF3B78D8u);
 }

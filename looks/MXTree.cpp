@@ -1,0 +1,178 @@
+#include "looks/MXTree.h"
+
+#include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+#include "looks/MXListbox.h"
+
+#include <CEGUI/Image.h>
+#include <CEGUI/falagard/WidgetLookManager.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/TreeItem.h>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+// One image centred in the button's area, as CEGUI's tree asks for its branch buttons.
+String buttonSection(const char* section, const char* image)
+{
+    return String("<ImagerySection name=\"") + section +
+           "\"><ImageryComponent><Area>"
+           "<Dim type=\"LeftEdge\"><AbsoluteDim value=\"0\" /></Dim>"
+           "<Dim type=\"TopEdge\"><AbsoluteDim value=\"0\" /></Dim>"
+           "<Dim type=\"Width\"><UnifiedDim scale=\"1\" type=\"Width\" /></Dim>"
+           "<Dim type=\"Height\"><UnifiedDim scale=\"1\" type=\"Height\" /></Dim>"
+           "</Area><Image name=\"MoxieLook/" +
+           image +
+           "\" /><VertFormat type=\"CentreAligned\" /><HorzFormat type=\"CentreAligned\" />"
+           "</ImageryComponent></ImagerySection>";
+}
+
+const WidgetLookFeel& buttonLook()
+{
+    WidgetLookManager& looks = WidgetLookManager::getSingleton();
+    if (!looks.isWidgetLookAvailable(MXTree::ButtonLookName))
+        looks.parseLookNFeelSpecificationFromString(
+            String("<?xml version=\"1.0\" ?><Falagard version=\"7\"><WidgetLook name=\"") +
+            MXTree::ButtonLookName + "\">" +
+            buttonSection("OpenTreeButton", MXTree::BranchClosedImageName) +
+            buttonSection("CloseTreeButton", MXTree::BranchOpenImageName) +
+            "</WidgetLook></Falagard>");
+    return looks.getWidgetLook(MXTree::ButtonLookName);
+}
+} // namespace
+
+const Colour MXTree::SelectionColour(0xFF3B78D8);
+
+MXTree::MXTree(const String& type, const String& name) : RedrawnWhenUncovered<Tree>(type, name)
+{
+    setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
+    d_frame.setImages({"StaticFrameListTopLeft", "StaticFrameListTopRight",
+                       "StaticFrameListBottomLeft", "StaticFrameListBottomRight",
+                       "StaticFrameListLeft", "StaticFrameListTop", "StaticFrameListRight",
+                       "StaticFrameListBottom"});
+}
+
+void MXTree::initialiseComponents()
+{
+    RedrawnWhenUncovered<Tree>::initialiseComponents();
+    initialise();
+}
+
+void MXTree::initialise()
+{
+    const WidgetLookFeel& look = buttonLook();
+    d_openButtonImagery = &look.getImagerySection("OpenTreeButton");
+    d_closeButtonImagery = &look.getImagerySection("CloseTreeButton");
+    if (d_vertScrollbar)
+        return; // made already
+    d_vertScrollbar = createVertScrollbar(VertScrollbarName);
+    d_horzScrollbar = createHorzScrollbar(HorzScrollbarName);
+    for (Scrollbar* bar : {d_vertScrollbar, d_horzScrollbar})
+    {
+        bar->setNonClient(true);
+        if (!isChild(bar))
+            addChild(bar);
+        bar->subscribeEvent(
+            Scrollbar::EventScrollPositionChanged,
+            Event::Subscriber(&MXTree::handle_scrollChange, static_cast<Tree*>(this)));
+        for (const String* event : {&Window::EventShown, &Window::EventHidden})
+            bar->subscribeEvent(*event, [this] { layOutBars(); });
+    }
+    configureScrollbars();
+    performChildWindowLayout();
+}
+
+Scrollbar* MXTree::createVertScrollbar(const String& name) const
+{
+    // A tree from a layout file may bring its bars already.
+    if (isChild(name))
+        return static_cast<Scrollbar*>(getChild(name));
+    return createAutoPart<Scrollbar>(VertScrollbarType, name, "a tree's scroll bar");
+}
+
+Scrollbar* MXTree::createHorzScrollbar(const String& name) const
+{
+    if (isChild(name))
+        return static_cast<Scrollbar*>(getChild(name));
+    return createAutoPart<Scrollbar>(HorzScrollbarType, name, "a tree's scroll bar");
+}
+
+void MXTree::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    RedrawnWhenUncovered<Tree>::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
+    layOutBars();
+}
+
+void MXTree::layOutBars()
+{
+    if (!d_vertScrollbar || !d_horzScrollbar)
+        return;
+    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    const float t = ScrollbarThickness;
+    const float vertLength = inner.getHeight() - (d_horzScrollbar->isVisible() ? t : 0);
+    const float horzLength = inner.getWidth() - (d_vertScrollbar->isVisible() ? t : 0);
+    d_vertScrollbar->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
+                             USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
+    d_horzScrollbar->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
+                             USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+}
+
+Rectf MXTree::getTreeRenderArea() const
+{
+    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
+    if (d_vertScrollbar && d_vertScrollbar->isVisible())
+        area.d_max.d_x -= ScrollbarThickness;
+    if (d_horzScrollbar && d_horzScrollbar->isVisible())
+        area.d_max.d_y -= ScrollbarThickness;
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
+    return area;
+}
+
+void MXTree::cacheTreeBaseImagery()
+{
+    // CEGUI's tree lays its items out in the area it was last told, before drawing them.
+    Rectf items = getTreeRenderArea();
+    setItemRenderArea(items);
+    GeometryBuffer& buffer = getGeometryBuffer();
+    const Rectf area(Vector2f(0, 0), getPixelSize());
+    const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
+    lookImage(FillImageName).render(buffer, d_frame.innerRect(area), nullptr, white);
+    d_frame.setSize(area.getSize());
+    d_frame.setColours(white);
+    d_frame.draw(buffer, Vector2f(0, 0), nullptr);
+}
+
+void MXTree::populateGeometryBuffer()
+{
+    // Nothing at all while clipped away, so that coming into view draws it whole.
+    if (hasVisibleArea(*this))
+        RedrawnWhenUncovered<Tree>::populateGeometryBuffer();
+}
+
+void MXTree::onListContentsChanged(WindowEventArgs& e)
+{
+    styleItems(d_listItems);
+    RedrawnWhenUncovered<Tree>::onListContentsChanged(e);
+}
+
+void MXTree::styleItems(const std::vector<TreeItem*>& items)
+{
+    for (TreeItem* item : items)
+    {
+        if (!item->getSelectionBrushImage())
+            item->setSelectionBrushImage(&lookImage(SelectionBrushImageName));
+        // CEGUI's default indigo tint sinks into the dark field: the accent blue instead.
+        const ColourRect& tint = item->getSelectionColours();
+        if (tint.d_top_left == TreeItem::DefaultSelectionColour &&
+            tint.d_bottom_right == TreeItem::DefaultSelectionColour)
+            item->setSelectionColours(SelectionColour);
+        styleItems(item->getItemList());
+    }
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
