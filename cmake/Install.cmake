@@ -20,6 +20,9 @@ endforeach()
 install(FILES ${MOXIE_DATA_DIR}/MoxieLook.scheme ${MOXIE_DATA_DIR}/MoxieLook.imageset
               ${MOXIE_DATA_DIR}/MoxieLook.png ${MOXIE_DATA_DIR}/MoxieLook.font
               ${MOXIE_DATA_DIR}/DejaVuSans.ttf
+              ${MOXIE_DATA_DIR}/MoxieLookAsTaharezLook.scheme
+              ${MOXIE_DATA_DIR}/MoxieLookAsWindowsLook.scheme
+              ${MOXIE_DATA_DIR}/MoxieLookAsVanilla.scheme
         DESTINATION ${MOXIE_INSTALL_DATADIR})
 
 install(EXPORT MoxieLookTargets NAMESPACE MoxieLook:: DESTINATION ${MOXIE_INSTALL_CMAKEDIR})

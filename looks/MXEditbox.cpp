@@ -3,8 +3,10 @@
 #include "draw/Imagery.h"
 
 #include <CEGUI/CoordConverter.h>
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +18,16 @@ MXEditbox::MXEditbox(const String& type, const String& name) : EditboxEx(type, n
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXEditboxRenderer::TypeName);
+    const String propertyOrigin("MoxieLook/MXEditbox");
+    CEGUI_DEFINE_PROPERTY(MXEditbox, bool, "BlinkCaret",
+                          "Property to get/set whether the caret blinks. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXEditbox::setBlinkCaret, &MXEditbox::isBlinkCaret, true);
+    CEGUI_DEFINE_PROPERTY(MXEditbox, float, "BlinkCaretTimeout",
+                          "Property to get/set the seconds the caret stays shown, then hidden. "
+                          "Value is a float.",
+                          &MXEditbox::setBlinkCaretTimeout, &MXEditbox::getBlinkCaretTimeout,
+                          CaretBlinkTime);
 }
 
 Rectf MXEditbox::textArea() const
@@ -102,7 +114,7 @@ void MXEditbox::populateGeometryBuffer()
                        selEnd > selStart ? selected : normal);
     font->drawText(buffer, text.substr(selEnd), Vector2f(x, top), &area, normal);
 
-    if (focused && !isReadOnly() && !disabled && d_caretShown)
+    if (focused && !isReadOnly() && !disabled && d_blink.shown)
     {
         const float caretX = std::floor(left + toCaret);
         d_imagery.caret().render(
@@ -113,23 +125,30 @@ void MXEditbox::populateGeometryBuffer()
 
 void MXEditbox::updateCaretBlink(float elapsed)
 {
-    if (!hasInputFocus() || isReadOnly())
-        return;
-    d_blinkElapsed += elapsed;
-    if (d_blinkElapsed > CaretBlinkTime)
-    {
-        d_blinkElapsed = 0;
-        d_caretShown = !d_caretShown;
+    if (hasInputFocus() && !isReadOnly() && d_blink.advance(elapsed))
         invalidate();
-    }
 }
 
 void MXEditbox::restartBlink()
 {
-    // A caret that just moved is shown at once.
-    d_blinkElapsed = 0;
-    d_caretShown = true;
+    d_blink.restart();
     invalidate();
+}
+
+void MXEditbox::setBlinkCaret(bool blink)
+{
+    d_blink.enabled = blink;
+    restartBlink();
+}
+
+void MXEditbox::setBlinkCaretTimeout(float seconds)
+{
+    if (!(seconds >= 0) || !std::isfinite(seconds))
+        throw InvalidRequestException("\"BlinkCaretTimeout\": '" +
+                                      PropertyHelper<float>::toString(seconds) +
+                                      "' is no number of seconds.");
+    d_blink.period = seconds;
+    restartBlink();
 }
 
 void MXEditbox::onCaretMoved(WindowEventArgs& e)

@@ -5,6 +5,7 @@
 // look brings one (MXEditboxRenderer) that forwards to it.
 #pragma once
 
+#include "looks/CaretBlink.h"
 #include "looks/EditboxImagery.h"
 #include "looks/LookFactory.h"
 #include "looks/LookRendererFactory.h"
@@ -36,7 +37,13 @@ public:
     String visualText() const;
     //! Where the text starts from the text area's left, as last drawn.
     float textOffset() const { return d_textOffset; }
-    bool isCaretShown() const { return d_caretShown; }
+    bool isCaretShown() const { return d_blink.shown; }
+
+    //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
+    void setBlinkCaret(bool blink);
+    bool isBlinkCaret() const { return d_blink.enabled; }
+    void setBlinkCaretTimeout(float seconds);
+    float getBlinkCaretTimeout() const { return d_blink.period; }
 
 protected:
     void onCaretMoved(WindowEventArgs& e) override;
@@ -49,8 +56,7 @@ private:
     void restartBlink();
 
     float d_textOffset = 0.0f;
-    float d_blinkElapsed = 0.0f;
-    bool d_caretShown = true;
+    CaretBlink d_blink;
 };
 
 //! "MoxieLook/ComboEditbox": the combo box's edit part as a type of its own, the edit

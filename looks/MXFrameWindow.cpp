@@ -5,6 +5,9 @@
 #include "looks/MXCloseButton.h"
 #include "looks/MXTitlebar.h"
 
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/widgets/Titlebar.h>
 
 namespace CEGUI
@@ -32,6 +35,33 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
     setEWSizingCursorImage(&lookImage(EastWestCursorImageName));
     setNWSESizingCursorImage(&lookImage(NWestSEastCursorImageName));
     setNESWSizingCursorImage(&lookImage(NEastSWestCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXFrameWindow, String, "TitlebarFont",
+                          "Property to get/set the title bar's font. Value is a font name; "
+                          "empty for the window's own.",
+                          &MXFrameWindow::setTitlebarFont, &MXFrameWindow::getTitlebarFont, "");
+}
+
+void MXFrameWindow::setTitlebarFont(const String& name)
+{
+    if (!isChild(TitlebarName))
+        return;
+    try
+    {
+        getTitlebar()->setFont(name);
+    }
+    catch (const UnknownObjectException&)
+    {
+        throw UnknownObjectException("\"TitlebarFont\": no font named '" + name + "' is loaded.");
+    }
+}
+
+String MXFrameWindow::getTitlebarFont() const
+{
+    if (!isChild(TitlebarName))
+        return "";
+    const Font* font = getTitlebar()->getFont(false);
+    return font ? font->getName() : String();
 }
 
 void MXFrameWindow::initialiseComponents()

@@ -59,6 +59,10 @@ public:
 
     MXFrameWindow(const String& type, const String& name);
 
+    //! The stock skins' "TitlebarFont": the title bar's own font (empty: the window's).
+    void setTitlebarFont(const String& name);
+    String getTitlebarFont() const;
+
     //! Where frame `step` of the animation lies (screen pixels), as a weighted sum of the
     //! window's rectangle and the task-bar rectangle; `restoring` swaps the weights.
     static Rectf animationFrame(const Rectf& window, const Rectf& taskbar, unsigned step,

@@ -3,8 +3,10 @@
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <algorithm>
 #include <cmath>
@@ -21,6 +23,17 @@ MXMultiLineEditBox::MXMultiLineEditBox(const String& type, const String& name)
     setSelectionBrushImage(&lookImage(EditboxImagery::SelectionImageName));
     // A caret that just moved is shown at once.
     subscribeEvent(EventCaretMoved, [this] { restartBlink(); });
+    const String propertyOrigin("MoxieLook/MXMultiLineEditBox");
+    CEGUI_DEFINE_PROPERTY(MXMultiLineEditBox, bool, "BlinkCaret",
+                          "Property to get/set whether the caret blinks. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXMultiLineEditBox::setBlinkCaret, &MXMultiLineEditBox::isBlinkCaret,
+                          true);
+    CEGUI_DEFINE_PROPERTY(MXMultiLineEditBox, float, "BlinkCaretTimeout",
+                          "Property to get/set the seconds the caret stays shown, then hidden. "
+                          "Value is a float.",
+                          &MXMultiLineEditBox::setBlinkCaretTimeout,
+                          &MXMultiLineEditBox::getBlinkCaretTimeout, CaretBlinkTime);
 }
 
 void MXMultiLineEditBox::initialiseComponents()
@@ -104,7 +117,7 @@ void MXMultiLineEditBox::populateGeometryBuffer()
     drawLines(buffer, area);
 
     const Font* font = getFont();
-    if (!font || !focused || isReadOnly() || disabled || !d_caretShown)
+    if (!font || !focused || isReadOnly() || disabled || !d_blink.shown)
         return;
     const LineList& lines = getFormattedLines();
     const std::size_t line = getLineNumberFromIndex(getCaretIndex());
@@ -178,22 +191,30 @@ void MXMultiLineEditBox::notifyScreenAreaChanged(bool recursive)
 
 void MXMultiLineEditBox::updateCaretBlink(float elapsed)
 {
-    if (!hasInputFocus() || isReadOnly())
-        return;
-    d_blinkElapsed += elapsed;
-    if (d_blinkElapsed > CaretBlinkTime)
-    {
-        d_blinkElapsed = 0;
-        d_caretShown = !d_caretShown;
+    if (hasInputFocus() && !isReadOnly() && d_blink.advance(elapsed))
         invalidate();
-    }
 }
 
 void MXMultiLineEditBox::restartBlink()
 {
-    d_blinkElapsed = 0;
-    d_caretShown = true;
+    d_blink.restart();
     invalidate();
+}
+
+void MXMultiLineEditBox::setBlinkCaret(bool blink)
+{
+    d_blink.enabled = blink;
+    restartBlink();
+}
+
+void MXMultiLineEditBox::setBlinkCaretTimeout(float seconds)
+{
+    if (!(seconds >= 0) || !std::isfinite(seconds))
+        throw InvalidRequestException("\"BlinkCaretTimeout\": '" +
+                                      PropertyHelper<float>::toString(seconds) +
+                                      "' is no number of seconds.");
+    d_blink.period = seconds;
+    restartBlink();
 }
 
 void MXMultiLineEditBox::onTextChanged(WindowEventArgs& e)

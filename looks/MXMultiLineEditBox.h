@@ -7,6 +7,7 @@
 
 #include "draw/ClipWatch.h"
 #include "draw/RedrawnWhenUncovered.h"
+#include "looks/CaretBlink.h"
 #include "looks/EditboxImagery.h"
 #include "looks/LookFactory.h"
 #include "looks/LookRendererFactory.h"
@@ -40,6 +41,12 @@ public:
     virtual void updateCaretBlink(float elapsed);
     void notifyScreenAreaChanged(bool recursive = true) override;
 
+    //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
+    void setBlinkCaret(bool blink);
+    bool isBlinkCaret() const { return d_blink.enabled; }
+    void setBlinkCaretTimeout(float seconds);
+    float getBlinkCaretTimeout() const { return d_blink.period; }
+
 protected:
     void onTextChanged(WindowEventArgs& e) override;
     void onActivated(ActivationEventArgs& e) override;
@@ -52,8 +59,7 @@ private:
     void drawLines(GeometryBuffer& buffer, const Rectf& area);
     void restartBlink();
 
-    float d_blinkElapsed = 0.0f;
-    bool d_caretShown = true;
+    CaretBlink d_blink;
     ClipWatch d_clipWatch;
 };
 

@@ -1,11 +1,54 @@
 #include "looks/MXStatics.h"
 
 #include "draw/Imagery.h"
+#include "looks/AutoParts.h"
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <algorithm>
 
 namespace CEGUI
 {
 namespace MoxieLook
 {
+namespace
+{
+// One of a part's properties under the owner's name, as CEGUI's skins link them.
+class BarLinkProperty : public Property
+{
+public:
+    BarLinkProperty(const char* name, const char* part, const char* target)
+        : Property(name, String("Property to get/set the scroll bar's ") + target + ".", "0", false,
+                   MXStaticText::WidgetTypeName),
+          d_part(part), d_target(target)
+    {
+    }
+
+    String get(const PropertyReceiver* receiver) const override
+    {
+        const Window* bar = partOrNull(*static_cast<const Window*>(receiver), d_part);
+        return bar ? bar->getProperty(d_target) : String("0");
+    }
+
+    void set(PropertyReceiver* receiver, const String& value) override
+    {
+        Window* bar = partOrNull(*static_cast<Window*>(receiver), d_part);
+        if (!bar)
+            throw InvalidRequestException("\"" + getName() + "\": no scroll bar to give '" + value +
+                                          "' to.");
+        bar->setProperty(d_target, value);
+    }
+
+    Property* clone() const override { return new BarLinkProperty(*this); }
+
+private:
+    const char* d_part;
+    const char* d_target;
+};
+} // namespace
+
 void StaticFrameImages::applyTo(Static& target)
 {
     target.setFrameImages(&lookImage(TopLeftImage), &lookImage(TopRightImage),
@@ -32,6 +75,156 @@ void MXStaticLayout::initialiseComponents()
 MXStaticText::MXStaticText(const String& type, const String& name) : StaticText(type, name)
 {
     applyTo(*this);
+    addScrollProperties();
+}
+
+void MXStaticText::initialiseComponents()
+{
+    StaticText::initialiseComponents();
+    // A static from a layout file may bring its bars already.
+    const std::pair<const char*, const char*> bars[] = {{VertScrollbarName, VertScrollbarType},
+                                                        {HorzScrollbarName, HorzScrollbarType}};
+    for (const auto& [name, type] : bars)
+        if (!isChild(name))
+        {
+            auto* bar = createAutoPart<Scrollbar>(type, name, "a static text's scroll bar");
+            bar->setNonClient(true);
+            bar->hide();
+            addChild(bar);
+            bar->subscribeEvent(Scrollbar::EventScrollPositionChanged, [this] { invalidate(); });
+        }
+}
+
+Scrollbar* MXStaticText::getVertScrollbar() const
+{
+    return static_cast<Scrollbar*>(partOrNull(*this, VertScrollbarName));
+}
+
+Scrollbar* MXStaticText::getHorzScrollbar() const
+{
+    return static_cast<Scrollbar*>(partOrNull(*this, HorzScrollbarName));
+}
+
+void MXStaticText::setVertScrollbarEnabled(bool enabled)
+{
+    d_vertEnabled = enabled;
+    invalidate();
+}
+
+void MXStaticText::setHorzScrollbarEnabled(bool enabled)
+{
+    d_horzEnabled = enabled;
+    invalidate();
+}
+
+void MXStaticText::addScrollProperties()
+{
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXStaticText, bool, "VertScrollbar",
+                          "Property to get/set whether a vertical scroll bar shows when the "
+                          "text is taller than the static. Value is either \"True\" or "
+                          "\"False\".",
+                          &MXStaticText::setVertScrollbarEnabled,
+                          &MXStaticText::isVertScrollbarEnabled, false);
+    CEGUI_DEFINE_PROPERTY(MXStaticText, bool, "HorzScrollbar",
+                          "Property to get/set whether a horizontal scroll bar shows when the "
+                          "text is wider than the static. Value is either \"True\" or "
+                          "\"False\".",
+                          &MXStaticText::setHorzScrollbarEnabled,
+                          &MXStaticText::isHorzScrollbarEnabled, false);
+    // The bars' own values under the names CEGUI's skins link them by.
+    static BarLinkProperty links[] = {
+        {"VertScrollPosition", VertScrollbarName, "ScrollPosition"},
+        {"VertScrollPageSize", VertScrollbarName, "PageSize"},
+        {"VertScrollDocumentSize", VertScrollbarName, "DocumentSize"},
+        {"HorzScrollPosition", HorzScrollbarName, "ScrollPosition"},
+        {"HorzScrollPageSize", HorzScrollbarName, "PageSize"},
+        {"HorzScrollDocumentSize", HorzScrollbarName, "DocumentSize"}};
+    for (BarLinkProperty& link : links)
+        addProperty(&link);
+}
+
+Rectf MXStaticText::configureScrollbars(const Rectf& inner)
+{
+    Scrollbar* vert = getVertScrollbar();
+    Scrollbar* horz = getHorzScrollbar();
+    if (!vert || !horz || !getFont())
+        return inner;
+    const float t = ScrollbarThickness;
+    // The text's size in the area left beside the bars: a shown bar narrows the other way.
+    Sizef text =
+        measureText(*this, getRenderedString(), inner.getWidth(), getHorizontalFormatting());
+    const bool needVert = d_vertEnabled && text.d_height > inner.getHeight();
+    if (needVert)
+        text = measureText(*this, getRenderedString(), std::max(0.0f, inner.getWidth() - t),
+                           getHorizontalFormatting());
+    const bool needHorz = d_horzEnabled && text.d_width > inner.getWidth() - (needVert ? t : 0.0f);
+    vert->setVisible(needVert);
+    horz->setVisible(needHorz);
+    Rectf area = inner;
+    if (needVert)
+        area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x - t);
+    if (needHorz)
+        area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y - t);
+    vert->setDocumentSize(text.d_height);
+    vert->setPageSize(area.getHeight());
+    vert->setStepSize(std::max(1.0f, area.getHeight() / 10.0f));
+    vert->setScrollPosition(needVert ? vert->getScrollPosition() : 0.0f);
+    horz->setDocumentSize(text.d_width);
+    horz->setPageSize(area.getWidth());
+    horz->setStepSize(std::max(1.0f, area.getWidth() / 10.0f));
+    horz->setScrollPosition(needHorz ? horz->getScrollPosition() : 0.0f);
+    layOutBars(inner);
+    return area;
+}
+
+void MXStaticText::layOutBars(const Rectf& inner)
+{
+    Scrollbar* vert = getVertScrollbar();
+    Scrollbar* horz = getHorzScrollbar();
+    if (!vert || !horz)
+        return;
+    const float t = ScrollbarThickness;
+    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
+    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
+    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
+                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
+    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
+                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+}
+
+void MXStaticText::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
+{
+    StaticText::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
+    invalidate(); // the bars follow the text at the next draw
+}
+
+void MXStaticText::drawContent(GeometryBuffer& buffer, const Rectf& inner)
+{
+    if (!d_vertEnabled && !d_horzEnabled)
+        return StaticText::drawContent(buffer, inner);
+    const Rectf area = configureScrollbars(inner);
+    // Scrolled: the text moves under an area that clips it.
+    Rectf moved = area;
+    moved.offset(Vector2f(-getHorzScrollbar()->getScrollPosition(),
+                          -getVertScrollbar()->getScrollPosition()));
+    moved.d_max.d_y =
+        std::max(moved.d_max.d_y, moved.top() + getVertScrollbar()->getDocumentSize());
+    if (getFont())
+        drawText(*this, buffer, getRenderedString(), moved, getHorizontalFormatting(),
+                 getVerticalFormatting(), faded(getTextColours(), getEffectiveAlpha()), &area);
+}
+
+void MXStaticText::onMouseWheel(MouseEventArgs& e)
+{
+    StaticText::onMouseWheel(e);
+    Scrollbar* vert = getVertScrollbar();
+    Scrollbar* horz = getHorzScrollbar();
+    if (vert && vert->isVisible())
+        vert->setScrollPosition(vert->getScrollPosition() + vert->getStepSize() * -e.wheelChange);
+    else if (horz && horz->isVisible())
+        horz->setScrollPosition(horz->getScrollPosition() + horz->getStepSize() * -e.wheelChange);
+    ++e.handled;
 }
 
 MXStaticImage::MXStaticImage(const String& type, const String& name) : StaticImage(type, name)

@@ -14,6 +14,7 @@
 
 namespace CEGUI
 {
+class Scrollbar;
 namespace MoxieLook
 {
 //! The "StaticFrame..." images every static look frames itself with.
@@ -51,7 +52,39 @@ class MXStaticText : public StaticText, public StaticFrameImages
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/StaticText";
+    static constexpr char VertScrollbarName[] = "__auto_vscrollbar__";
+    static constexpr char HorzScrollbarName[] = "__auto_hscrollbar__";
+    static constexpr char VertScrollbarType[] = "MoxieLook/VerticalScrollbar";
+    static constexpr char HorzScrollbarType[] = "MoxieLook/HorizontalScrollbar";
+    static constexpr float ScrollbarThickness = 16.0f;
+
     MXStaticText(const String& type, const String& name);
+    void initialiseComponents() override;
+    void performChildWindowLayout(bool nonclientSizedHint = false,
+                                  bool clientSizedHint = false) override;
+
+    //! CEGUI's core static text's scrolling: a bar, when enabled, shows when the text is
+    //! larger than the area that way, and the text scrolls with it.
+    void setVertScrollbarEnabled(bool enabled);
+    bool isVertScrollbarEnabled() const { return d_vertEnabled; }
+    void setHorzScrollbarEnabled(bool enabled);
+    bool isHorzScrollbarEnabled() const { return d_horzEnabled; }
+    Scrollbar* getVertScrollbar() const;
+    Scrollbar* getHorzScrollbar() const;
+
+protected:
+    void drawContent(GeometryBuffer& buffer, const Rectf& inner) override;
+    void onMouseWheel(MouseEventArgs& e) override;
+
+private:
+    //! Shows the bars the text needs inside `inner` and gives them its sizes; returns the
+    //! area left for the text.
+    Rectf configureScrollbars(const Rectf& inner);
+    void layOutBars(const Rectf& inner);
+    void addScrollProperties();
+
+    bool d_vertEnabled = false;
+    bool d_horzEnabled = false;
 };
 
 //! "MoxieLook/StaticImage": a bare picture; frame and fill can be switched on.
