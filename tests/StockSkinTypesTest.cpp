@@ -1,16 +1,21 @@
 // The types the stock CEGUI skins have beside the module's own: drawn from the family's
 // images, with the stock skins' properties, laid out for their children.
+#include "looks/MXEditbox.h"
 #include "looks/MXPlainWindows.h"
 #include "looks/MXProgressBar.h"
+#include "looks/MXStatics.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
+#include <CEGUI/FontManager.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/PropertyHelper.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/DefaultWindow.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/FrameWindow.h>
 #include <CEGUI/widgets/ItemEntry.h>
 #include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/MenuItem.h>
@@ -19,6 +24,7 @@
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Thumb.h>
+#include <CEGUI/widgets/Titlebar.h>
 #include <CEGUI/widgets/Tree.h>
 #include <CEGUI/widgets/TreeItem.h>
 #include <algorithm>
@@ -403,4 +409,74 @@ TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkFie
     const DrawnQuad* brush = find(drawnBy(tree), "ListboxSelectionBrush");
     ASSERT_NE(brush, nullptr);
     EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF3B78D8u);
+}
+
+TEST_F(StockSkinTypesTest, StockPropertiesChangeWhatIsDrawn)
+{
+    // "TitlebarFont" sets the title bar's font, which draws its text.
+    Window& frame = moxietest::place("MoxieLook/FrameWindow", 10, 10, 300, 200);
+    frame.setText("Notes");
+    Window* bar = static_cast<FrameWindow&>(frame).getTitlebar();
+    const float before = drawnBy(*bar).back().rect.getHeight();
+    FontManager::getSingleton().createFreeTypeFont("Big", 24, true, "DejaVuSans.ttf");
+    frame.setProperty("TitlebarFont", "Big");
+    EXPECT_EQ(frame.getProperty("TitlebarFont"), "Big");
+    EXPECT_EQ(bar->getFont(), &FontManager::getSingleton().get("Big"));
+    EXPECT_GT(drawnBy(*bar).back().rect.getHeight(), before);
+    EXPECT_THROW(frame.setProperty("TitlebarFont", "NoSuchFont"), UnknownObjectException);
+
+    // "BlinkCaret" false keeps the caret shown however long the box has focus.
+    auto& box = static_cast<MXEditbox&>(moxietest::place("MoxieLook/Editbox", 10, 250, 200, 26));
+    box.activate();
+    moxietest::context().injectTimePulse(0.6f);
+    EXPECT_FALSE(box.isCaretShown()); // blinking by default
+    box.setProperty("BlinkCaret", "False");
+    for (int i = 0; i < 5; ++i)
+    {
+        moxietest::context().injectTimePulse(0.6f);
+        EXPECT_TRUE(box.isCaretShown());
+    }
+    box.setProperty("BlinkCaret", "True");
+    box.setProperty("BlinkCaretTimeout", "2");
+    moxietest::context().injectTimePulse(1.0f);
+    EXPECT_TRUE(box.isCaretShown());
+    moxietest::context().injectTimePulse(1.5f);
+    EXPECT_FALSE(box.isCaretShown());
+    EXPECT_EQ(box.getProperty("BlinkCaretTimeout"), "2");
+    EXPECT_THROW(box.setProperty("BlinkCaretTimeout", "-1"), InvalidRequestException);
+}
+
+TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
+{
+    auto& text =
+        static_cast<MXStaticText&>(moxietest::place("MoxieLook/StaticText", 10, 10, 200, 60));
+    text.setProperty("HorzFormatting", "WordWrapLeftAligned");
+    String lines;
+    for (int i = 0; i < 12; ++i)
+        lines += "Line " + PropertyHelper<int>::toString(i) + "\n";
+    text.setText(lines);
+    drawnBy(text);
+    EXPECT_FALSE(text.getVertScrollbar()->isVisible()); // off by default, as CEGUI's
+    text.setProperty("VertScrollbar", "True");
+    auto quads = drawnBy(text);
+    Scrollbar* bar = text.getVertScrollbar();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_GT(bar->getDocumentSize(), bar->getPageSize());
+    EXPECT_EQ(text.getProperty("VertScrollDocumentSize"), bar->getProperty("DocumentSize"));
+    const DrawnQuad* run = find(quads, "text");
+    ASSERT_NE(run, nullptr);
+    // The text leaves room for the bar and moves up as it scrolls, by wheel or property.
+    EXPECT_LE(run->rect.right(), bar->getUnclippedOuterRect().get().left() - 10);
+    const Vector2f at = moxietest::centreOf(text);
+    moxietest::wheel(at.d_x, at.d_y, -1);
+    EXPECT_GT(bar->getScrollPosition(), 0);
+    text.setProperty("VertScrollPosition", "20");
+    EXPECT_EQ(bar->getScrollPosition(), 20);
+    // Scrolled, the first line slides under the area's top edge and is cut there.
+    const auto scrolled = drawnBy(text);
+    EXPECT_LT(find(scrolled, "text")->rect.top(), run->rect.top());
+    // Short text needs no bar.
+    text.setText("Short");
+    drawnBy(text);
+    EXPECT_FALSE(bar->isVisible());
 }
