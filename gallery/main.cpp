@@ -2,10 +2,15 @@
 //
 //   moxie-gallery                 a window to try every widget by hand
 //   moxie-gallery --screenshot D  writes D/gallery.png and one D/<Type>.png per type
+//   moxie-gallery --layout FILE [--scheme NAME.scheme] [--screenshot OUT.png]
+//                                 any layout file in MoxieLook (through an alias scheme
+//                                 for layouts written for a stock skin), in a window or
+//                                 as a picture
 //
 // Without a display it runs itself again under xvfb-run and takes the screenshots.
 #include "GalleryPage.h"
 #include "Label.h"
+#include "LayoutViewer.h"
 #include "Png.h"
 #include "ShownHovered.h"
 #include "module/Soundification.h"
@@ -33,8 +38,10 @@ constexpr std::uint8_t Backdrop[3] = {0xD3, 0xD8, 0xDE}; // neutral grey-blue
 
 struct Options
 {
-    std::string screenshotDir;
+    std::string screenshotDir; //!< or, with a layout, the picture's file
     std::string dataDir = MOXIE_DATA_DIR;
+    std::string layout;
+    std::string scheme = "MoxieLook.scheme";
 };
 
 Options parse(int argc, char** argv)
@@ -47,9 +54,15 @@ Options parse(int argc, char** argv)
             options.screenshotDir = argv[++i];
         else if (arg == "--data" && i + 1 < argc)
             options.dataDir = argv[++i];
+        else if (arg == "--layout" && i + 1 < argc)
+            options.layout = argv[++i];
+        else if (arg == "--scheme" && i + 1 < argc)
+            options.scheme = argv[++i];
         else
         {
-            std::cerr << "usage: moxie-gallery [--screenshot DIR] [--data DIR]\n";
+            std::cerr << "usage: moxie-gallery [--screenshot DIR] [--data DIR]\n"
+                         "       moxie-gallery --layout FILE [--scheme NAME.scheme] "
+                         "[--screenshot OUT.png] [--data DIR]\n";
             std::exit(2);
         }
     }
@@ -65,7 +78,7 @@ void rerunUnderXvfb(int argc, char** argv, const Options& options)
     if (options.screenshotDir.empty())
     {
         args.push_back("--screenshot");
-        args.push_back("gallery-shots");
+        args.push_back(options.layout.empty() ? "gallery-shots" : "layout.png");
     }
     std::vector<char*> raw;
     for (std::string& arg : args)
@@ -82,9 +95,10 @@ GUIContext& gui()
     return System::getSingleton().getDefaultGUIContext();
 }
 
-void forwardInput(GLFWwindow* window, gallery::GalleryPage& page)
+//! Input to CEGUI; the wheel nobody takes scrolls the page, if there is one.
+void forwardInput(GLFWwindow* window, gallery::GalleryPage* page)
 {
-    glfwSetWindowUserPointer(window, &page);
+    glfwSetWindowUserPointer(window, page);
     glfwSetCursorPosCallback(
         window, [](GLFWwindow*, double x, double y)
         { gui().injectMousePosition(static_cast<float>(x), static_cast<float>(y)); });
@@ -100,14 +114,16 @@ void forwardInput(GLFWwindow* window, gallery::GalleryPage& page)
                                    else
                                        gui().injectMouseButtonUp(which);
                                });
-    glfwSetScrollCallback(
-        window,
-        [](GLFWwindow* w, double, double dy)
-        {
-            // The wheel goes to the widget under the pointer; the page scrolls when none takes it.
-            if (!gui().injectMouseWheelChange(static_cast<float>(dy)))
-                static_cast<gallery::GalleryPage*>(glfwGetWindowUserPointer(w))->scrollBy(-40 * dy);
-        });
+    glfwSetScrollCallback(window,
+                          [](GLFWwindow* w, double, double dy)
+                          {
+                              // The wheel goes to the widget under the pointer; the page scrolls
+                              // when none takes it.
+                              auto* scrolled =
+                                  static_cast<gallery::GalleryPage*>(glfwGetWindowUserPointer(w));
+                              if (!gui().injectMouseWheelChange(static_cast<float>(dy)) && scrolled)
+                                  scrolled->scrollBy(-40 * dy);
+                          });
     glfwSetCharCallback(window,
                         [](GLFWwindow*, unsigned int codepoint) { gui().injectChar(codepoint); });
     glfwSetKeyCallback(window,
@@ -251,6 +267,38 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
     std::cout << "moxie-gallery: wrote " << shots.size() + 1 << " pictures to " << dir << "\n";
     return 0;
 }
+// The layout on screen until the window closes, or, with --screenshot, one picture of it.
+int viewLayout(GLFWwindow* window, const Options& options)
+{
+    try
+    {
+        gallery::showLayout(options.layout);
+    }
+    catch (const CEGUI::Exception& error)
+    {
+        std::cerr << "moxie-gallery: " << error.getMessage() << "\n";
+        return 1;
+    }
+    if (!options.screenshotDir.empty())
+    {
+        for (int frame = 0; frame < 3; ++frame)
+            renderFrame(1.0f / 60);
+        gallery::writePng(options.screenshotDir, readBack(Rectf(0, 0, WindowWidth, WindowHeight)));
+        std::cout << "moxie-gallery: wrote " << options.screenshotDir << "\n";
+        return 0;
+    }
+    forwardInput(window, nullptr);
+    double last = glfwGetTime();
+    while (!glfwWindowShouldClose(window))
+    {
+        glfwPollEvents();
+        const double now = glfwGetTime();
+        renderFrame(static_cast<float>(now - last));
+        last = now;
+        glfwSwapBuffers(window);
+    }
+    return 0;
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -289,7 +337,8 @@ int main(int argc, char** argv)
     resources->setResourceGroupDirectory("moxielook", options.dataDir.c_str());
     resources->setDefaultResourceGroup("moxielook");
     WindowFactoryManager::addFactory<TplWindowFactory<gallery::Label>>();
-    SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    SchemeManager::getSingleton().createFromFile(options.layout.empty() ? "MoxieLook.scheme"
+                                                                        : options.scheme);
     gallery::registerShownHoveredTypes();
     // A host maps the module's sound names to sounds; the gallery just says them.
     MoxieLook::MXSoundification::GetInstance().RegisterHook(
@@ -299,13 +348,16 @@ int main(int argc, char** argv)
     gui().getMouseCursor().setDefaultImage("MoxieLook/MouseArrow");
 
     int status = 0;
+    if (!options.layout.empty())
+        status = viewLayout(window, options);
+    else
     {
         gallery::GalleryPage page(Sizef(WindowWidth, WindowHeight));
         if (!options.screenshotDir.empty())
             status = takeScreenshots(window, page, options.screenshotDir);
         else
         {
-            forwardInput(window, page);
+            forwardInput(window, &page);
             for (const gallery::GalleryPage::CardInfo& card : page.cards())
                 if (card.whenShown)
                     card.whenShown();
