@@ -49,10 +49,16 @@ Rectf EditboxImagery::drawBox(const Window& window, GeometryBuffer& buffer, bool
     const Rectf area(Vector2f(0, 0), window.getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), window.getEffectiveAlpha());
     const Rectf inner = d_frame.innerRect(area);
-    (disabled   ? d_disabledFill
-     : readOnly ? d_readOnlyFill
-                : d_fill)
-        ->render(buffer, inner, nullptr, white);
+    if (disabled)
+        d_disabledFill->render(buffer, inner, nullptr, white);
+    else if (readOnly)
+        d_readOnlyFill->render(
+            buffer, inner, nullptr,
+            colours.readOnlyBackground
+                ? faded(ColourRect(*colours.readOnlyBackground), window.getEffectiveAlpha())
+                : white);
+    else
+        d_fill->render(buffer, inner, nullptr, white);
     NinePieceFrame& frame = focused && !disabled ? d_focusFrame : d_frame;
     frame.setSize(area.getSize());
     frame.setColours(white);
@@ -60,9 +66,31 @@ Rectf EditboxImagery::drawBox(const Window& window, GeometryBuffer& buffer, bool
     return inner;
 }
 
-const Colour& EditboxImagery::textColour(bool readOnly, bool disabled) const
+namespace
 {
-    return disabled ? DisabledTextColour : readOnly ? ReadOnlyTextColour : TextColour;
+// A host's colour keeps its own alpha under the window's; the look's own carry none.
+ColourRect shown(const std::optional<Colour>& host, const Colour& own, float alpha)
+{
+    return host ? faded(ColourRect(*host), alpha) : ColourRect(withAlpha(own, alpha));
+}
+} // namespace
+
+ColourRect EditboxImagery::textColour(bool readOnly, bool disabled, float alpha) const
+{
+    if (disabled)
+        return ColourRect(withAlpha(DisabledTextColour, alpha));
+    return shown(colours.normalText, readOnly ? ReadOnlyTextColour : TextColour, alpha);
+}
+
+ColourRect EditboxImagery::selectedTextColour(float alpha) const
+{
+    return shown(colours.selectedText, SelectedTextColour, alpha);
+}
+
+ColourRect EditboxImagery::selectionTint(bool focused, float alpha) const
+{
+    return shown(focused ? colours.activeSelection : colours.inactiveSelection, Colour(0x00FFFFFF),
+                 alpha);
 }
 
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,

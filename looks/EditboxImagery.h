@@ -8,6 +8,10 @@
 #include "draw/NinePieceFrame.h"
 
 #include <CEGUI/ColourRect.h>
+#include <CEGUI/Property.h>
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/Window.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -33,13 +37,30 @@ public:
     //! Room between the frame and the text on the left and right.
     static constexpr float TextPadding = 3.0f;
 
+    //! Colours a host gave through the stock skins' properties ("NormalTextColour",
+    //! "SelectedTextColour", "ActiveSelectionColour", "InactiveSelectionColour",
+    //! "ReadOnlyBGColour"); unset, the look's own.
+    struct StockColours
+    {
+        std::optional<Colour> normalText;
+        std::optional<Colour> selectedText;
+        std::optional<Colour> activeSelection;
+        std::optional<Colour> inactiveSelection;
+        std::optional<Colour> readOnlyBackground;
+    };
+    StockColours colours;
+
     EditboxImagery();
 
     //! Draws the frame and the fill of the state; returns the area inside the frame.
     Rectf drawBox(const Window& window, GeometryBuffer& buffer, bool focused, bool readOnly,
                   bool disabled) const;
     Rectf innerRect(const Rectf& outer) const { return d_frame.innerRect(outer); }
-    const Colour& textColour(bool readOnly, bool disabled) const;
+    //! The colours to draw with, at the window's `alpha`.
+    ColourRect textColour(bool readOnly, bool disabled, float alpha) const;
+    ColourRect selectedTextColour(float alpha) const;
+    //! The tint over the selection brush: white unless a host gave a colour.
+    ColourRect selectionTint(bool focused, float alpha) const;
 
     const Image& caret() const { return *d_caret; }
     const Image& selection(bool focused) const { return focused ? *d_selection : *d_inactive; }
@@ -60,6 +81,60 @@ private:
 //! end, and otherwise keeps the last offset, so that it does not jump while typing.
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
                          float extentToCaret);
+
+//! One of the stock skins' edit box colours on a look that has `imagery()`.
+template <typename Owner>
+class EditboxColourProperty : public Property
+{
+public:
+    using Slot = std::optional<Colour> EditboxImagery::StockColours::*;
+
+    EditboxColourProperty(const char* name, Slot slot, const Colour& ownColour)
+        : Property(name, String("Property to get/set the ") + name + ". Value is \"aarrggbb\".",
+                   PropertyHelper<Colour>::toString(ownColour), true, "MoxieLook/EditboxColours"),
+          d_slot(slot), d_own(ownColour)
+    {
+    }
+
+    String get(const PropertyReceiver* receiver) const override
+    {
+        const auto& colours = static_cast<const Owner*>(receiver)->imagery().colours;
+        return PropertyHelper<Colour>::toString((colours.*d_slot).value_or(d_own));
+    }
+
+    void set(PropertyReceiver* receiver, const String& value) override
+    {
+        auto* owner = static_cast<Owner*>(receiver);
+        owner->imagery().colours.*d_slot = PropertyHelper<Colour>::fromString(value);
+        owner->invalidate();
+    }
+
+    Property* clone() const override { return new EditboxColourProperty(*this); }
+
+private:
+    Slot d_slot;
+    Colour d_own;
+};
+
+//! Adds the stock skins' five edit box colours to `owner`.
+template <typename Owner>
+void addEditboxColourProperties(Owner& owner)
+{
+    using Colours = EditboxImagery::StockColours;
+    auto opaque = [](Colour colour)
+    {
+        colour.setAlpha(1.0f);
+        return colour;
+    };
+    static EditboxColourProperty<Owner> properties[] = {
+        {"NormalTextColour", &Colours::normalText, opaque(EditboxImagery::TextColour)},
+        {"SelectedTextColour", &Colours::selectedText, opaque(EditboxImagery::SelectedTextColour)},
+        {"ActiveSelectionColour", &Colours::activeSelection, Colour(0xFFFFFFFF)},
+        {"InactiveSelectionColour", &Colours::inactiveSelection, Colour(0xFFFFFFFF)},
+        {"ReadOnlyBGColour", &Colours::readOnlyBackground, Colour(0xFFFFFFFF)}};
+    for (auto& property : properties)
+        owner.addProperty(&property);
+}
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -18,6 +18,7 @@ MXEditbox::MXEditbox(const String& type, const String& name) : EditboxEx(type, n
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXEditboxRenderer::TypeName);
+    addEditboxColourProperties(*this);
     const String propertyOrigin("MoxieLook/MXEditbox");
     CEGUI_DEFINE_PROPERTY(MXEditbox, bool, "BlinkCaret",
                           "Property to get/set whether the caret blinks. Value is either "
@@ -101,13 +102,13 @@ void MXEditbox::populateGeometryBuffer()
     {
         const float from = left + font->getTextAdvance(text.substr(0, selStart));
         const float to = left + font->getTextAdvance(text.substr(0, selEnd));
-        d_imagery.selection(focused).render(
-            buffer, Rectf(from, top, to, top + font->getLineSpacing()), &area,
-            withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+        d_imagery.selection(focused).render(buffer,
+                                            Rectf(from, top, to, top + font->getLineSpacing()),
+                                            &area, d_imagery.selectionTint(focused, alpha));
     }
     // Before, inside and after the selection, each in its colour.
-    const ColourRect normal(withAlpha(d_imagery.textColour(isReadOnly(), disabled), alpha));
-    const ColourRect selected(withAlpha(EditboxImagery::SelectedTextColour, alpha));
+    const ColourRect normal = d_imagery.textColour(isReadOnly(), disabled, alpha);
+    const ColourRect selected = d_imagery.selectedTextColour(alpha);
     float x = left;
     x = font->drawText(buffer, text.substr(0, selStart), Vector2f(x, top), &area, normal);
     x = font->drawText(buffer, text.substr(selStart, selEnd - selStart), Vector2f(x, top), &area,

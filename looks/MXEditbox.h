@@ -38,6 +38,8 @@ public:
     //! Where the text starts from the text area's left, as last drawn.
     float textOffset() const { return d_textOffset; }
     bool isCaretShown() const { return d_blink.shown; }
+    EditboxImagery& imagery() { return d_imagery; }
+    const EditboxImagery& imagery() const { return d_imagery; }
 
     //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
     void setBlinkCaret(bool blink);

@@ -23,6 +23,7 @@ MXMultiLineEditBox::MXMultiLineEditBox(const String& type, const String& name)
     setSelectionBrushImage(&lookImage(EditboxImagery::SelectionImageName));
     // A caret that just moved is shown at once.
     subscribeEvent(EventCaretMoved, [this] { restartBlink(); });
+    addEditboxColourProperties(*this);
     const String propertyOrigin("MoxieLook/MXMultiLineEditBox");
     CEGUI_DEFINE_PROPERTY(MXMultiLineEditBox, bool, "BlinkCaret",
                           "Property to get/set whether the caret blinks. Value is either "
@@ -141,10 +142,9 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
         return;
     const float alpha = getEffectiveAlpha();
     const float spacing = font->getLineSpacing();
-    const ColourRect normal(
-        withAlpha(d_imagery.textColour(isReadOnly(), isEffectiveDisabled()), alpha));
-    const ColourRect selectedText(withAlpha(EditboxImagery::SelectedTextColour, alpha));
-    const ColourRect brush = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
+    const ColourRect normal = d_imagery.textColour(isReadOnly(), isEffectiveDisabled(), alpha);
+    const ColourRect selectedText = d_imagery.selectedTextColour(alpha);
+    const ColourRect brush = d_imagery.selectionTint(hasInputFocus(), alpha);
     const Image& selection =
         getSelectionBrushImage() ? *getSelectionBrushImage() : d_imagery.selection(hasInputFocus());
     const LineList& lines = getFormattedLines();

@@ -41,6 +41,9 @@ public:
     virtual void updateCaretBlink(float elapsed);
     void notifyScreenAreaChanged(bool recursive = true) override;
 
+    EditboxImagery& imagery() { return d_imagery; }
+    const EditboxImagery& imagery() const { return d_imagery; }
+
     //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
     void setBlinkCaret(bool blink);
     bool isBlinkCaret() const { return d_blink.enabled; }

@@ -480,3 +480,37 @@ TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
     drawnBy(text);
     EXPECT_FALSE(bar->isVisible());
 }
+
+TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
+{
+    for (const char* type :
+         {"MoxieLook/Editbox", "MoxieLook/MultiLineEditbox", "MoxieLook/ComboEditbox"})
+    {
+        SCOPED_TRACE(type);
+        Window& box = moxietest::place(type, 10, 10, 200, 60);
+        box.setText("Hello colours");
+        box.activate();
+        box.setProperty("NormalTextColour", "FF112233");
+        box.setProperty("SelectedTextColour", "FFFFEE00");
+        box.setProperty("ActiveSelectionColour", "FF00FF00");
+        EXPECT_EQ(box.getProperty("NormalTextColour"), "FF112233");
+        // Unselected, the text takes the normal colour; wholly selected, the selected one
+        // over the tinted brush.
+        const DrawnQuad* plain = find(drawnBy(box), "text");
+        ASSERT_NE(plain, nullptr);
+        EXPECT_EQ(argb(plain->colours.d_top_left), 0xFF112233u);
+        box.setProperty("SelectionStart", "0");
+        box.setProperty("SelectionLength", "13");
+        const auto quads = drawnBy(box);
+        const DrawnQuad* brush = find(quads, "EditboxSelection");
+        ASSERT_NE(brush, nullptr);
+        EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF00FF00u);
+        EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFFFFEE00u);
+
+        box.setProperty("ReadOnly", "True");
+        box.setProperty("ReadOnlyBGColour", "FFDDEEFF");
+        const DrawnQuad* fill = find(drawnBy(box), "EditboxFillReadOnly");
+        ASSERT_NE(fill, nullptr);
+        EXPECT_EQ(argb(fill->colours.d_top_left), 0xFFDDEEFFu);
+    }
+}
