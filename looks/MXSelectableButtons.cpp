@@ -5,6 +5,7 @@
 #include "looks/MXButtonEx.h"
 
 #include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 
 namespace CEGUI
 {
@@ -156,20 +157,54 @@ void MXRadioButton::populateGeometryBuffer()
 // --- check box --------------------------------------------------------------------------
 
 MXCheckbox::MXCheckbox(const String& type, const String& name)
-    : RedrawnWhenUncovered<CEGUI::ToggleButton>(type, name), d_normal(&lookImage(NormalImageName)),
-      d_highlight(&lookImage(HighlightImageName)), d_checkMark(&lookImage(CheckMarkImageName))
+    : RedrawnWhenUncovered<CEGUI::ToggleButton>(type, name),
+      d_normalText(withAlpha(EnabledTextLabelColour, 1.0f)),
+      d_hoverText(withAlpha(EnabledTextLabelColour, 1.0f)),
+      d_pushedText(withAlpha(EnabledTextLabelColour, 1.0f)),
+      d_disabledText(withAlpha(DisabledTextLabelColour, 1.0f)),
+      d_normal(&lookImage(NormalImageName)), d_highlight(&lookImage(HighlightImageName)),
+      d_checkMark(&lookImage(CheckMarkImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "NormalTextColour",
+                          "Property to get/set the label's colour. Value is \"aarrggbb\".",
+                          &MXCheckbox::setNormalTextColour, &MXCheckbox::getNormalTextColour,
+                          withAlpha(EnabledTextLabelColour, 1.0f));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "HoverTextColour",
+                          "Property to get/set the label's colour under the pointer. Value is "
+                          "\"aarrggbb\".",
+                          &MXCheckbox::setHoverTextColour, &MXCheckbox::getHoverTextColour,
+                          withAlpha(EnabledTextLabelColour, 1.0f));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "PushedTextColour",
+                          "Property to get/set the label's colour while pressed. Value is "
+                          "\"aarrggbb\".",
+                          &MXCheckbox::setPushedTextColour, &MXCheckbox::getPushedTextColour,
+                          withAlpha(EnabledTextLabelColour, 1.0f));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "DisabledTextColour",
+                          "Property to get/set the label's colour while disabled. Value is "
+                          "\"aarrggbb\".",
+                          &MXCheckbox::setDisabledTextColour, &MXCheckbox::getDisabledTextColour,
+                          withAlpha(DisabledTextLabelColour, 1.0f));
+}
+
+void MXCheckbox::setLabelColour(Colour& slot, const Colour& colour)
+{
+    slot = colour;
+    invalidate();
 }
 
 void MXCheckbox::populateGeometryBuffer()
 {
     const ButtonDrawState state = drawStateOf(*this);
     const bool lit = state == ButtonDrawState::Hover || state == ButtonDrawState::Pushed;
-    drawSelectable(
-        *this, {lit ? d_highlight : d_normal, isSelected() ? d_checkMark : nullptr, state},
-        state == ButtonDrawState::Disabled ? DisabledTextLabelColour : EnabledTextLabelColour,
-        LabelPadding);
+    drawSelectable(*this,
+                   {lit ? d_highlight : d_normal, isSelected() ? d_checkMark : nullptr, state},
+                   state == ButtonDrawState::Disabled ? d_disabledText
+                   : state == ButtonDrawState::Hover  ? d_hoverText
+                   : state == ButtonDrawState::Pushed ? d_pushedText
+                                                      : d_normalText,
+                   LabelPadding);
 }
 
 void MXCheckbox::onSelectStateChange(WindowEventArgs& e)

@@ -104,11 +104,27 @@ public:
 
     MXCheckbox(const String& type, const String& name);
 
+    //! The label's colour per state, as the stock skins set them ("NormalTextColour", ...).
+    void setNormalTextColour(const Colour& colour) { setLabelColour(d_normalText, colour); }
+    const Colour& getNormalTextColour() const { return d_normalText; }
+    void setHoverTextColour(const Colour& colour) { setLabelColour(d_hoverText, colour); }
+    const Colour& getHoverTextColour() const { return d_hoverText; }
+    void setPushedTextColour(const Colour& colour) { setLabelColour(d_pushedText, colour); }
+    const Colour& getPushedTextColour() const { return d_pushedText; }
+    void setDisabledTextColour(const Colour& colour) { setLabelColour(d_disabledText, colour); }
+    const Colour& getDisabledTextColour() const { return d_disabledText; }
+
 protected:
     void populateGeometryBuffer() override;
     void onSelectStateChange(WindowEventArgs& e) override;
 
 private:
+    void setLabelColour(Colour& slot, const Colour& colour);
+
+    Colour d_normalText;
+    Colour d_hoverText;
+    Colour d_pushedText;
+    Colour d_disabledText;
     const Image* d_normal;
     const Image* d_highlight;
     const Image* d_checkMark;

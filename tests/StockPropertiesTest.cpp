@@ -24,7 +24,6 @@ const std::map<std::string, std::vector<std::string>> StockProperties = {
 const std::map<std::string, std::set<std::string>> StillToCome = {
     {"Button",
      {"HorzImageFormatting", "HorzLabelFormatting", "VertImageFormatting", "VertLabelFormatting"}},
-    {"Checkbox", {"DisabledTextColour", "HoverTextColour", "NormalTextColour", "PushedTextColour"}},
     {"ComboEditbox", {"TextFormatting"}},
     {"Combobox",
      {"ActiveEditSelectionColour", "DropDownButtonHoverImage", "DropDownButtonNormalImage",

@@ -514,3 +514,20 @@ TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
         EXPECT_EQ(argb(fill->colours.d_top_left), 0xFFDDEEFFu);
     }
 }
+
+TEST_F(StockSkinTypesTest, ACheckBoxLabelTakesTheStockSkinsColourOfItsState)
+{
+    Window& box = moxietest::place("MoxieLook/Checkbox", 10, 10, 160, 24);
+    box.setText("Sound");
+    box.setProperty("NormalTextColour", "FF112233");
+    box.setProperty("HoverTextColour", "FF445566");
+    box.setProperty("DisabledTextColour", "FF778899");
+    EXPECT_EQ(box.getProperty("HoverTextColour"), "FF445566");
+    auto label = [&] { return argb(find(drawnBy(box), "text")->colours.d_top_left); };
+    EXPECT_EQ(label(), 0xFF112233u);
+    moxietest::pointerTo(80, 20);
+    EXPECT_EQ(label(), 0xFF445566u);
+    moxietest::pointerTo(700, 500);
+    box.disable();
+    EXPECT_EQ(label(), 0xFF778899u);
+}
