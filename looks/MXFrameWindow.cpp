@@ -40,6 +40,40 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
                           "Property to get/set the title bar's font. Value is a font name; "
                           "empty for the window's own.",
                           &MXFrameWindow::setTitlebarFont, &MXFrameWindow::getTitlebarFont, "");
+    CEGUI_DEFINE_PROPERTY(MXFrameWindow, Colour, "CaptionColour",
+                          "Property to get/set the title bar's caption colour. Value is "
+                          "\"aarrggbb\".",
+                          &MXFrameWindow::setCaptionColour, &MXFrameWindow::getCaptionColour,
+                          withAlpha(MXTitlebar::ActiveTextColour, 1.0f));
+    CEGUI_DEFINE_PROPERTY(MXFrameWindow, Colour, "ClientAreaColour",
+                          "Property to get/set the tint of the client area's background. Value "
+                          "is \"aarrggbb\".",
+                          &MXFrameWindow::setClientAreaColour, &MXFrameWindow::getClientAreaColour,
+                          withAlpha(ClientTopLeftColour, 1.0f));
+}
+
+void MXFrameWindow::setCaptionColour(const Colour& colour)
+{
+    if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
+        bar->setCaptionColour(colour);
+}
+
+Colour MXFrameWindow::getCaptionColour() const
+{
+    if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
+        return bar->getCaptionColour();
+    return withAlpha(MXTitlebar::ActiveTextColour, 1.0f);
+}
+
+void MXFrameWindow::setClientAreaColour(const Colour& colour)
+{
+    d_clientAreaColour = colour;
+    invalidate();
+}
+
+Colour MXFrameWindow::getClientAreaColour() const
+{
+    return d_clientAreaColour.value_or(withAlpha(ClientTopLeftColour, 1.0f));
 }
 
 void MXFrameWindow::setTitlebarFont(const String& name)
@@ -246,10 +280,12 @@ void MXFrameWindow::populateGeometryBuffer()
     const Rectf outer = getUnclippedOuterRect().get();
     Rectf inner = getUnclippedInnerRect().get();
     inner.offset(Vector2f(-outer.left(), -outer.top()));
-    d_clientBrush->render(getGeometryBuffer(), inner, nullptr,
-                          withAlpha(ColourRect(ClientTopLeftColour, ClientTopRightColour,
-                                               ClientBottomLeftColour, ClientBottomRightColour),
-                                    getEffectiveAlpha()));
+    d_clientBrush->render(
+        getGeometryBuffer(), inner, nullptr,
+        d_clientAreaColour ? faded(ColourRect(*d_clientAreaColour), getEffectiveAlpha())
+                           : withAlpha(ColourRect(ClientTopLeftColour, ClientTopRightColour,
+                                                  ClientBottomLeftColour, ClientBottomRightColour),
+                                       getEffectiveAlpha()));
     if (isFrameEnabled())
         drawFrameAt(outer);
 }

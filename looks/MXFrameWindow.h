@@ -8,6 +8,8 @@
 #include "looks/LookFactory.h"
 #include "widgets/FrameWindowEx.h"
 
+#include <optional>
+
 namespace CEGUI
 {
 namespace MoxieLook
@@ -62,6 +64,12 @@ public:
     //! The stock skins' "TitlebarFont": the title bar's own font (empty: the window's).
     void setTitlebarFont(const String& name);
     String getTitlebarFont() const;
+    //! The stock skins' "CaptionColour" (the title bar's) and "ClientAreaColour" (tints the
+    //! client area's background).
+    void setCaptionColour(const Colour& colour);
+    Colour getCaptionColour() const;
+    void setClientAreaColour(const Colour& colour);
+    Colour getClientAreaColour() const;
 
     //! Where frame `step` of the animation lies (screen pixels), as a weighted sum of the
     //! window's rectangle and the task-bar rectangle; `restoring` swaps the weights.
@@ -89,6 +97,7 @@ protected:
     void onDeactivated(ActivationEventArgs& e) override;
 
 private:
+    std::optional<Colour> d_clientAreaColour;
     PushButton* createTitleButton(const String& name, const char* normal, const char* hover,
                                   const char* pushed) const;
     void followAnimationClipping();

@@ -5,6 +5,7 @@
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/widgets/TabButton.h>
 #include <cmath>
 
@@ -21,6 +22,13 @@ MXTabControl::MXTabControl(const String& type, const String& name)
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXTabControlRenderer::TypeName);
     setTabTextPadding(cegui_absdim(TabTextPadding));
+    d_tabButtonType = TabButtonType;
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXTabControl, String, "TabButtonType",
+                          "Property to get/set the type of the tab buttons made from now on. "
+                          "Value is a window type name.",
+                          &MXTabControl::setTabButtonType, &MXTabControl::getTabButtonType,
+                          TabButtonType);
 }
 
 void MXTabControl::initialiseComponents()
@@ -35,7 +43,7 @@ void MXTabControl::initialiseComponents()
 
 TabButton* MXTabControl::createTabButton(const String& name) const
 {
-    return createAutoPart<TabButton>(TabButtonType, name, "a tab button");
+    return createAutoPart<TabButton>(d_tabButtonType, name, "a tab button");
 }
 
 Window* MXTabControl::createTabContentPane(const String& name) const

@@ -34,7 +34,12 @@ public:
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;
 
-    //! A new window of `TabButtonType` called `name`.
+    //! CEGUI's core renderer's "TabButtonType": this control's tab type, the class-wide
+    //! `TabButtonType` until set. Tabs made afterwards take it.
+    void setTabButtonType(const String& type) { d_tabButtonType = type; }
+    const String& getTabButtonType() const { return d_tabButtonType; }
+
+    //! A new window of the tab button type called `name`.
     virtual TabButton* createTabButton(const String& name) const;
     //! A new window of `TabContentPaneType`. CEGUI 0.8 names children per parent, so the
     //! pane takes `name` as it is (the control looks it up by `ContentPaneName`).
@@ -56,6 +61,7 @@ protected:
 private:
     void placePanes();
 
+    String d_tabButtonType;
     const Image* d_filler;
     Vector3f d_fillerPosition{0, 0, 0};
     Sizef d_fillerSize{0, 0};

@@ -4,6 +4,7 @@
 #include "draw/TextDrawing.h"
 #include "looks/MXFrameWindow.h"
 
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/widgets/FrameWindow.h>
 
 namespace CEGUI
@@ -20,6 +21,22 @@ MXTitlebar::MXTitlebar(const String& type, const String& name)
           ThreePieceBar::named(ActiveLeftImageName, ActiveMiddleImageName, ActiveRightImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXTitlebar, Colour, "CaptionColour",
+                          "Property to get/set the caption's colour. Value is \"aarrggbb\".",
+                          &MXTitlebar::setCaptionColour, &MXTitlebar::getCaptionColour,
+                          withAlpha(ActiveTextColour, 1.0f));
+}
+
+void MXTitlebar::setCaptionColour(const Colour& colour)
+{
+    d_captionColour = colour;
+    invalidate();
+}
+
+Colour MXTitlebar::getCaptionColour() const
+{
+    return d_captionColour.value_or(withAlpha(ActiveTextColour, 1.0f));
 }
 
 float MXTitlebar::barHeight() const
@@ -85,7 +102,10 @@ void MXTitlebar::populateGeometryBuffer()
                      area.right() - ButtonRoom, area.bottom());
     drawText(*this, buffer, getRenderedString(), text, HorzTextFormat::Left,
              VertTextFormat::Centred,
-             ColourRect(withAlpha(active ? ActiveTextColour : InactiveTextColour, alpha)), &text);
+             d_captionColour
+                 ? faded(ColourRect(*d_captionColour), alpha)
+                 : ColourRect(withAlpha(active ? ActiveTextColour : InactiveTextColour, alpha)),
+             &text);
 }
 
 } // namespace MoxieLook

@@ -9,6 +9,7 @@
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/Titlebar.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -28,6 +29,10 @@ public:
     static constexpr char ActiveRightImageName[] = "TitlebarFocusRight";
     static const Colour ActiveTextColour;
     static const Colour InactiveTextColour;
+
+    //! The stock skins' "CaptionColour": the text's colour in both states, once set.
+    void setCaptionColour(const Colour& colour);
+    Colour getCaptionColour() const;
     //! Room kept free of text at the right, for the window's buttons.
     static constexpr float ButtonRoom = 60.0f;
 
@@ -50,6 +55,7 @@ protected:
     void onFontChanged(WindowEventArgs& e) override;
 
 private:
+    std::optional<Colour> d_captionColour;
     bool onFrameWindow() const;
 
     ThreePieceBar d_bar;

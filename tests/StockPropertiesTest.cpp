@@ -30,7 +30,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
       "DropDownButtonPushedImage", "InactiveEditSelectionColour", "NormalEditTextColour",
       "SelectedEditTextColour"}},
     {"Editbox", {"TextFormatting"}},
-    {"FrameWindow", {"CaptionColour", "ClientAreaColour"}},
     {"GroupBox", {"BackgroundTextColours", "DisabledTextColour", "TextBackground"}},
     {"HorizontalScrollbar", {"VerticalScrollbar"}},
     {"ImageButton",
@@ -50,8 +49,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
     {"TabButton", {"HoverTextColour", "SelectedTextColour"}},
     {"TabButtonPane", {"EnableBottom", "EnableTop"}},
     {"TabContentPane", {"EnableBottom", "EnableTop"}},
-    {"TabControl", {"TabButtonType"}},
-    {"Titlebar", {"CaptionColour"}},
     {"Tree", {"FrameColours"}},
     {"VerticalScrollbar", {"VerticalScrollbar"}},
 };

@@ -23,6 +23,7 @@
 #include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/TabControl.h>
 #include <CEGUI/widgets/Thumb.h>
 #include <CEGUI/widgets/Titlebar.h>
 #include <CEGUI/widgets/Tree.h>
@@ -530,4 +531,39 @@ TEST_F(StockSkinTypesTest, ACheckBoxLabelTakesTheStockSkinsColourOfItsState)
     moxietest::pointerTo(700, 500);
     box.disable();
     EXPECT_EQ(label(), 0xFF778899u);
+}
+
+TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
+{
+    Window& frame = moxietest::place("MoxieLook/FrameWindow", 10, 10, 300, 200);
+    frame.setText("Notes");
+    Window* bar = static_cast<FrameWindow&>(frame).getTitlebar();
+    frame.setProperty("CaptionColour", "FF102030");
+    EXPECT_EQ(bar->getProperty("CaptionColour"), "FF102030");
+    EXPECT_EQ(argb(find(drawnBy(*bar), "text")->colours.d_top_left), 0xFF102030u);
+    frame.setProperty("ClientAreaColour", "FFF0E0D0");
+    const DrawnQuad* client = find(drawnBy(frame), "Background");
+    ASSERT_NE(client, nullptr);
+    EXPECT_EQ(argb(client->colours.d_top_left), 0xFFF0E0D0u);
+
+    // Tabs made after "TabButtonType" is set are of that type, on this control only.
+    auto& tabs =
+        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 10, 250, 300, 150));
+    auto& other =
+        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 350, 250, 300, 150));
+    tabs.setProperty("TabButtonType", "MoxieLook/TabButton");
+    EXPECT_EQ(tabs.getProperty("TabButtonType"), "MoxieLook/TabButton");
+    auto addPage = [](TabControl& control, const String& name)
+    {
+        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", name);
+        page->setText(name);
+        control.addTab(page);
+    };
+    // A type nobody registered: the tab cannot be made on this control...
+    tabs.setProperty("TabButtonType", "MoxieLook/NoSuchType");
+    EXPECT_THROW(addPage(tabs, "first"), UnknownObjectException);
+    // ...while the other control still makes its own.
+    addPage(other, "second");
+    EXPECT_EQ(other.getTabCount(), 1u);
+    EXPECT_EQ(other.getProperty("TabButtonType"), "MoxieLook/TabButton");
 }
