@@ -22,7 +22,6 @@ MXTabControl::MXTabControl(const String& type, const String& name)
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXTabControlRenderer::TypeName);
     setTabTextPadding(cegui_absdim(TabTextPadding));
-    d_tabButtonType = TabButtonType;
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXTabControl, String, "TabButtonType",
                           "Property to get/set the type of the tab buttons made from now on. "
@@ -43,7 +42,7 @@ void MXTabControl::initialiseComponents()
 
 TabButton* MXTabControl::createTabButton(const String& name) const
 {
-    return createAutoPart<TabButton>(d_tabButtonType, name, "a tab button");
+    return createAutoPart<TabButton>(getTabButtonType(), name, "a tab button");
 }
 
 Window* MXTabControl::createTabContentPane(const String& name) const

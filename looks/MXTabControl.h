@@ -8,6 +8,7 @@
 #include "looks/LookRendererFactory.h"
 
 #include <CEGUI/widgets/TabControl.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -34,10 +35,10 @@ public:
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;
 
-    //! CEGUI's core renderer's "TabButtonType": this control's tab type, the class-wide
-    //! `TabButtonType` until set. Tabs made afterwards take it.
+    //! CEGUI's core renderer's "TabButtonType": this control's own tab type, once set; until
+    //! then each tab takes the class-wide `TabButtonType` as it stands when the tab is made.
     void setTabButtonType(const String& type) { d_tabButtonType = type; }
-    const String& getTabButtonType() const { return d_tabButtonType; }
+    String getTabButtonType() const { return d_tabButtonType.value_or(TabButtonType); }
 
     //! A new window of the tab button type called `name`.
     virtual TabButton* createTabButton(const String& name) const;
@@ -61,7 +62,7 @@ protected:
 private:
     void placePanes();
 
-    String d_tabButtonType;
+    std::optional<String> d_tabButtonType;
     const Image* d_filler;
     Vector3f d_fillerPosition{0, 0, 0};
     Sizef d_fillerSize{0, 0};

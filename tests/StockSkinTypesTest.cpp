@@ -31,6 +31,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <optional>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -46,11 +47,12 @@ protected:
     void SetUp() override { moxietest::freshSheet(); }
 };
 
-const DrawnQuad* find(const std::vector<DrawnQuad>& quads, const std::string& image)
+// The first quad of `image`, a copy: the drawing it came from may be a temporary.
+std::optional<DrawnQuad> find(const std::vector<DrawnQuad>& quads, const std::string& image)
 {
     const auto it = std::find_if(quads.begin(), quads.end(),
                                  [&](const DrawnQuad& quad) { return quad.image == image; });
-    return it == quads.end() ? nullptr : &*it;
+    return it == quads.end() ? std::nullopt : std::optional<DrawnQuad>(*it);
 }
 } // namespace
 
@@ -133,7 +135,7 @@ TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildre
         }
     }
     EXPECT_TRUE(textDrawn);
-    EXPECT_NE(find(quads, "StaticFrameBottom"), nullptr);
+    EXPECT_TRUE(find(quads, "StaticFrameBottom"));
 }
 
 TEST_F(StockSkinTypesTest, TheTabControlsPanesAsTypesOfTheirOwn)
@@ -176,8 +178,8 @@ TEST_F(StockSkinTypesTest, ImageIconAndSystemButtonsDrawTheirPictures)
     quads = drawnBy(icon);
     ASSERT_GE(quads.size(), 2u);
     EXPECT_EQ(quads.front().image, "ButtonArrowFill");
-    const DrawnQuad* star = find(quads, "IconStar");
-    ASSERT_NE(star, nullptr);
+    const auto star = find(quads, "IconStar");
+    ASSERT_TRUE(star);
     const Sizef starSize = star->rect.getSize();
     EXPECT_NEAR(star->rect.left(), (40 - starSize.d_width) / 2, 0.51f);
     EXPECT_NEAR(star->rect.top(), (32 - starSize.d_height) / 2, 0.51f);
@@ -351,7 +353,7 @@ TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
     EXPECT_GT(bar->getScrollPosition(), 0);
     drawnBy(list);
     Window* under = moxietest::context().getRootWindow()->getTargetChildAtPosition(at);
-    ASSERT_NE(under, nullptr);
+    ASSERT_TRUE(under);
     ASSERT_NE(under, third);
     moxietest::click(at.d_x, at.d_y);
     EXPECT_EQ(list.getFirstSelectedItem(), under);
@@ -382,9 +384,9 @@ TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkFie
     ASSERT_GE(quads.size(), 10u);
     EXPECT_EQ(quads[0].image, "TreeViewFill");
     EXPECT_EQ(quads[1].image, "StaticFrameListTopLeft");
-    const DrawnQuad* closed = find(quads, "NavigateClose");
-    ASSERT_NE(closed, nullptr); // Fruit's branch, closed
-    EXPECT_EQ(find(quads, "NavigateOpen"), nullptr);
+    const auto closed = find(quads, "NavigateClose");
+    ASSERT_TRUE(closed); // Fruit's branch, closed
+    EXPECT_FALSE(find(quads, "NavigateOpen"));
 
     // A click on the branch button opens it; the items under it show.
     const Vector2f origin = tree.getUnclippedOuterRect().get().d_min;
@@ -393,7 +395,7 @@ TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkFie
     EXPECT_TRUE(fruit->getIsOpen());
     EXPECT_EQ(opened, 1);
     quads = drawnBy(tree);
-    EXPECT_NE(find(quads, "NavigateOpen"), nullptr);
+    EXPECT_TRUE(find(quads, "NavigateOpen"));
     // Four rows of text now: the glyph runs reach the fourth row.
     float textBottom = 0;
     for (const DrawnQuad& quad : quads)
@@ -407,8 +409,8 @@ TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkFie
     EXPECT_EQ(selections, 1);
     ASSERT_NE(tree.getFirstSelectedItem(), nullptr);
     EXPECT_EQ(tree.getFirstSelectedItem()->getText(), "Bananas");
-    const DrawnQuad* brush = find(drawnBy(tree), "ListboxSelectionBrush");
-    ASSERT_NE(brush, nullptr);
+    const auto brush = find(drawnBy(tree), "ListboxSelectionBrush");
+    ASSERT_TRUE(brush);
     EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF3B78D8u);
 }
 
@@ -464,8 +466,8 @@ TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
     ASSERT_TRUE(bar->isVisible());
     EXPECT_GT(bar->getDocumentSize(), bar->getPageSize());
     EXPECT_EQ(text.getProperty("VertScrollDocumentSize"), bar->getProperty("DocumentSize"));
-    const DrawnQuad* run = find(quads, "text");
-    ASSERT_NE(run, nullptr);
+    const auto run = find(quads, "text");
+    ASSERT_TRUE(run);
     // The text leaves room for the bar and moves up as it scrolls, by wheel or property.
     EXPECT_LE(run->rect.right(), bar->getUnclippedOuterRect().get().left() - 10);
     const Vector2f at = moxietest::centreOf(text);
@@ -497,21 +499,21 @@ TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
         EXPECT_EQ(box.getProperty("NormalTextColour"), "FF112233");
         // Unselected, the text takes the normal colour; wholly selected, the selected one
         // over the tinted brush.
-        const DrawnQuad* plain = find(drawnBy(box), "text");
-        ASSERT_NE(plain, nullptr);
+        const auto plain = find(drawnBy(box), "text");
+        ASSERT_TRUE(plain);
         EXPECT_EQ(argb(plain->colours.d_top_left), 0xFF112233u);
         box.setProperty("SelectionStart", "0");
         box.setProperty("SelectionLength", "13");
         const auto quads = drawnBy(box);
-        const DrawnQuad* brush = find(quads, "EditboxSelection");
-        ASSERT_NE(brush, nullptr);
+        const auto brush = find(quads, "EditboxSelection");
+        ASSERT_TRUE(brush);
         EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF00FF00u);
         EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFFFFEE00u);
 
         box.setProperty("ReadOnly", "True");
         box.setProperty("ReadOnlyBGColour", "FFDDEEFF");
-        const DrawnQuad* fill = find(drawnBy(box), "EditboxFillReadOnly");
-        ASSERT_NE(fill, nullptr);
+        const auto fill = find(drawnBy(box), "EditboxFillReadOnly");
+        ASSERT_TRUE(fill);
         EXPECT_EQ(argb(fill->colours.d_top_left), 0xFFDDEEFFu);
     }
 }
@@ -542,8 +544,8 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     EXPECT_EQ(bar->getProperty("CaptionColour"), "FF102030");
     EXPECT_EQ(argb(find(drawnBy(*bar), "text")->colours.d_top_left), 0xFF102030u);
     frame.setProperty("ClientAreaColour", "FFF0E0D0");
-    const DrawnQuad* client = find(drawnBy(frame), "Background");
-    ASSERT_NE(client, nullptr);
+    const auto client = find(drawnBy(frame), "Background");
+    ASSERT_TRUE(client);
     EXPECT_EQ(argb(client->colours.d_top_left), 0xFFF0E0D0u);
 
     // Tabs made after "TabButtonType" is set are of that type, on this control only.

@@ -2,6 +2,8 @@
 // with "MoxieLook/" in place of the stock prefix, and unchanged through the alias schemes,
 // draw, take a little input, and CEGUI logs no exception on the way. Each test brings CEGUI
 // up in its own process state (ctest runs each test apart).
+#include "module/Soundification.h"
+
 #include <CEGUI/CEGUI.h>
 #include <CEGUI/RendererModules/Null/Renderer.h>
 #include <algorithm>
@@ -75,6 +77,8 @@ protected:
 
     void TearDown() override
     {
+        // The module keeps its sound hook until a host gives it back, as this one does.
+        MoxieLook::MXSoundification::Destroy();
         auto* renderer = static_cast<NullRenderer*>(System::getSingleton().getRenderer());
         System::destroy();
         NullRenderer::destroy(*renderer);
