@@ -33,7 +33,7 @@ ImageBesideLabel placeImageBesideLabel(const Sizef& area, const Sizef& imageSize
 
 void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Image& image,
                           const Image* overlay, const ColourRect& imageColours,
-                          const Colour& textColour, float padding)
+                          const ColourRect& textColours, float padding)
 {
     const Font* font = window.getFont();
     const ImageBesideLabel at =
@@ -44,8 +44,7 @@ void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Im
         overlay->render(buffer, at.image, nullptr, imageColours);
     if (font)
         drawText(window, buffer, window.getRenderedString(), at.label, HorzTextFormat::Left,
-                 VertTextFormat::Top, ColourRect(withAlpha(textColour, window.getEffectiveAlpha())),
-                 nullptr);
+                 VertTextFormat::Top, textColours, nullptr);
 }
 
 } // namespace MoxieLook

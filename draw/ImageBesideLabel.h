@@ -24,10 +24,11 @@ struct ImageBesideLabel
 ImageBesideLabel placeImageBesideLabel(const Sizef& area, const Sizef& imageSize, float lineSpacing,
                                        float padding);
 
-//! Draws `image` (and `overlay` over it, if any) then the window text, left-aligned.
+//! Draws `image` (and `overlay` over it, if any) then the window text, left-aligned; the
+//! colours are final (the window's alpha already in).
 void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Image& image,
                           const Image* overlay, const ColourRect& imageColours,
-                          const Colour& textColour, float padding);
+                          const ColourRect& textColours, float padding);
 
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -69,9 +69,9 @@ Rectf EditboxImagery::drawBox(const Window& window, GeometryBuffer& buffer, bool
 namespace
 {
 // A host's colour keeps its own alpha under the window's; the look's own carry none.
-ColourRect shown(const std::optional<Colour>& host, const Colour& own, float alpha)
+ColourRect shown(const std::optional<ColourRect>& host, const Colour& own, float alpha)
 {
-    return host ? faded(ColourRect(*host), alpha) : ColourRect(withAlpha(own, alpha));
+    return host ? faded(*host, alpha) : ColourRect(withAlpha(own, alpha));
 }
 } // namespace
 

@@ -42,11 +42,11 @@ public:
     //! "ReadOnlyBGColour"); unset, the look's own.
     struct StockColours
     {
-        std::optional<Colour> normalText;
-        std::optional<Colour> selectedText;
-        std::optional<Colour> activeSelection;
-        std::optional<Colour> inactiveSelection;
-        std::optional<Colour> readOnlyBackground;
+        std::optional<ColourRect> normalText;
+        std::optional<ColourRect> selectedText;
+        std::optional<ColourRect> activeSelection;
+        std::optional<ColourRect> inactiveSelection;
+        std::optional<ColourRect> readOnlyBackground;
     };
     StockColours colours;
 
@@ -87,11 +87,15 @@ template <typename Owner>
 class EditboxColourProperty : public Property
 {
 public:
-    using Slot = std::optional<Colour> EditboxImagery::StockColours::*;
+    using Slot = std::optional<ColourRect> EditboxImagery::StockColours::*;
 
     EditboxColourProperty(const char* name, Slot slot, const Colour& ownColour)
-        : Property(name, String("Property to get/set the ") + name + ". Value is \"aarrggbb\".",
-                   PropertyHelper<Colour>::toString(ownColour), true, "MoxieLook/EditboxColours"),
+        : Property(name,
+                   String("Property to get/set the ") + name +
+                       ". Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb "
+                       "br:aarrggbb\".",
+                   PropertyHelper<ColourRect>::toString(ColourRect(ownColour)), true,
+                   "MoxieLook/EditboxColours"),
           d_slot(slot), d_own(ownColour)
     {
     }
@@ -99,13 +103,13 @@ public:
     String get(const PropertyReceiver* receiver) const override
     {
         const auto& colours = static_cast<const Owner*>(receiver)->imagery().colours;
-        return PropertyHelper<Colour>::toString((colours.*d_slot).value_or(d_own));
+        return PropertyHelper<ColourRect>::toString((colours.*d_slot).value_or(ColourRect(d_own)));
     }
 
     void set(PropertyReceiver* receiver, const String& value) override
     {
         auto* owner = static_cast<Owner*>(receiver);
-        owner->imagery().colours.*d_slot = PropertyHelper<Colour>::fromString(value);
+        owner->imagery().colours.*d_slot = PropertyHelper<ColourRect>::fromString(value);
         owner->invalidate();
     }
 

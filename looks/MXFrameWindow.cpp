@@ -40,40 +40,40 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
                           "Property to get/set the title bar's font. Value is a font name; "
                           "empty for the window's own.",
                           &MXFrameWindow::setTitlebarFont, &MXFrameWindow::getTitlebarFont, "");
-    CEGUI_DEFINE_PROPERTY(MXFrameWindow, Colour, "CaptionColour",
+    CEGUI_DEFINE_PROPERTY(MXFrameWindow, ColourRect, "CaptionColour",
                           "Property to get/set the title bar's caption colour. Value is "
                           "\"aarrggbb\".",
                           &MXFrameWindow::setCaptionColour, &MXFrameWindow::getCaptionColour,
-                          withAlpha(MXTitlebar::ActiveTextColour, 1.0f));
-    CEGUI_DEFINE_PROPERTY(MXFrameWindow, Colour, "ClientAreaColour",
+                          ColourRect(withAlpha(MXTitlebar::ActiveTextColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXFrameWindow, ColourRect, "ClientAreaColour",
                           "Property to get/set the tint of the client area's background. Value "
                           "is \"aarrggbb\".",
                           &MXFrameWindow::setClientAreaColour, &MXFrameWindow::getClientAreaColour,
-                          withAlpha(ClientTopLeftColour, 1.0f));
+                          ColourRect(withAlpha(ClientTopLeftColour, 1.0f)));
 }
 
-void MXFrameWindow::setCaptionColour(const Colour& colour)
+void MXFrameWindow::setCaptionColour(const ColourRect& colours)
 {
     if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
-        bar->setCaptionColour(colour);
+        bar->setCaptionColour(colours);
 }
 
-Colour MXFrameWindow::getCaptionColour() const
+ColourRect MXFrameWindow::getCaptionColour() const
 {
     if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
         return bar->getCaptionColour();
-    return withAlpha(MXTitlebar::ActiveTextColour, 1.0f);
+    return ColourRect(withAlpha(MXTitlebar::ActiveTextColour, 1.0f));
 }
 
-void MXFrameWindow::setClientAreaColour(const Colour& colour)
+void MXFrameWindow::setClientAreaColour(const ColourRect& colours)
 {
-    d_clientAreaColour = colour;
+    d_clientAreaColour = colours;
     invalidate();
 }
 
-Colour MXFrameWindow::getClientAreaColour() const
+ColourRect MXFrameWindow::getClientAreaColour() const
 {
-    return d_clientAreaColour.value_or(withAlpha(ClientTopLeftColour, 1.0f));
+    return d_clientAreaColour.value_or(ColourRect(withAlpha(ClientTopLeftColour, 1.0f)));
 }
 
 void MXFrameWindow::setTitlebarFont(const String& name)

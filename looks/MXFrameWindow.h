@@ -66,10 +66,10 @@ public:
     String getTitlebarFont() const;
     //! The stock skins' "CaptionColour" (the title bar's) and "ClientAreaColour" (tints the
     //! client area's background).
-    void setCaptionColour(const Colour& colour);
-    Colour getCaptionColour() const;
-    void setClientAreaColour(const Colour& colour);
-    Colour getClientAreaColour() const;
+    void setCaptionColour(const ColourRect& colours);
+    ColourRect getCaptionColour() const;
+    void setClientAreaColour(const ColourRect& colours);
+    ColourRect getClientAreaColour() const;
 
     //! Where frame `step` of the animation lies (screen pixels), as a weighted sum of the
     //! window's rectangle and the task-bar rectangle; `restoring` swaps the weights.
@@ -97,7 +97,7 @@ protected:
     void onDeactivated(ActivationEventArgs& e) override;
 
 private:
-    std::optional<Colour> d_clientAreaColour;
+    std::optional<ColourRect> d_clientAreaColour;
     PushButton* createTitleButton(const String& name, const char* normal, const char* hover,
                                   const char* pushed) const;
     void followAnimationClipping();

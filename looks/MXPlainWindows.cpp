@@ -19,15 +19,14 @@ const Colour MXGroupBox::DefaultCaptionColour(0xFF000000);
 
 namespace
 {
-// Draws the window's text into `area`, in `colour` faded with the window.
+// Draws the window's text into `area`, in `colours` faded with the window.
 void drawWindowText(Window& window, const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
-                    const Colour& colour)
+                    const ColourRect& colours)
 {
     if (!window.getFont() || window.getText().empty())
         return;
-    const ColourRect colours(withAlpha(colour, window.getEffectiveAlpha() * colour.getAlpha()));
     drawText(window, window.getGeometryBuffer(), window.getRenderedString(), area, horz, vert,
-             colours, nullptr);
+             faded(colours, window.getEffectiveAlpha()), nullptr);
 }
 } // namespace
 
@@ -41,48 +40,52 @@ MXLabel::MXLabel(const String& type, const String& name)
     setSize(USize(cegui_absdim(128), cegui_absdim(32)));
     StaticFrameImages::setCursorOf(*this);
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXLabel, Colour, "NormalTextColour",
-                          "Property to get/set the text colour while enabled. Value is "
-                          "\"aarrggbb\".",
+    CEGUI_DEFINE_PROPERTY(MXLabel, ColourRect, "NormalTextColour",
+                          "Property to get/set the text colours while enabled. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXLabel::setNormalTextColour, &MXLabel::getNormalTextColour,
-                          DefaultNormalTextColour);
-    CEGUI_DEFINE_PROPERTY(MXLabel, Colour, "DisabledTextColour",
-                          "Property to get/set the text colour while disabled. Value is "
-                          "\"aarrggbb\".",
+                          ColourRect(DefaultNormalTextColour));
+    CEGUI_DEFINE_PROPERTY(MXLabel, ColourRect, "DisabledTextColour",
+                          "Property to get/set the text colours while disabled. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXLabel::setDisabledTextColour, &MXLabel::getDisabledTextColour,
-                          DefaultDisabledTextColour);
+                          ColourRect(DefaultDisabledTextColour));
     CEGUI_DEFINE_PROPERTY(MXLabel, String, "HorzFormatting",
                           "Property to get/set the horizontal text formatting: \"LeftAligned\", "
                           "\"RightAligned\", \"CentreAligned\", \"Justified\", "
                           "\"WordWrapLeftAligned\", ...",
-                          &MXLabel::setHorzFormatting, &MXLabel::getHorzFormatting, "HorzCentred");
+                          &MXLabel::setHorzFormatting, &MXLabel::getHorzFormatting,
+                          "CentreAligned");
     CEGUI_DEFINE_PROPERTY(MXLabel, String, "VertFormatting",
                           "Property to get/set the vertical text formatting: \"TopAligned\", "
                           "\"BottomAligned\", \"CentreAligned\".",
-                          &MXLabel::setVertFormatting, &MXLabel::getVertFormatting, "VertCentred");
+                          &MXLabel::setVertFormatting, &MXLabel::getVertFormatting,
+                          "CentreAligned");
 }
 
-void MXLabel::setNormalTextColour(const Colour& colour)
+void MXLabel::setNormalTextColour(const ColourRect& colours)
 {
-    d_normalText = colour;
+    d_normalText = colours;
     invalidate();
 }
 
-void MXLabel::setDisabledTextColour(const Colour& colour)
+void MXLabel::setDisabledTextColour(const ColourRect& colours)
 {
-    d_disabledText = colour;
+    d_disabledText = colours;
     invalidate();
 }
 
 void MXLabel::setHorzFormatting(const String& name)
 {
     d_horz = horzTextFormatFromName(name);
+    d_horzName = name;
     invalidate();
 }
 
 void MXLabel::setVertFormatting(const String& name)
 {
     d_vert = vertTextFormatFromName(name);
+    d_vertName = name;
     invalidate();
 }
 
@@ -203,15 +206,16 @@ MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(
     setSize(USize(cegui_absdim(200), cegui_absdim(120)));
     setBackgroundEnabled(false);
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXGroupBox, Colour, "NormalTextColour",
-                          "Property to get/set the caption's colour. Value is \"aarrggbb\".",
+    CEGUI_DEFINE_PROPERTY(MXGroupBox, ColourRect, "NormalTextColour",
+                          "Property to get/set the caption's colours. Value is \"aarrggbb\" or "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXGroupBox::setNormalTextColour, &MXGroupBox::getNormalTextColour,
-                          DefaultCaptionColour);
+                          ColourRect(DefaultCaptionColour));
 }
 
-void MXGroupBox::setNormalTextColour(const Colour& colour)
+void MXGroupBox::setNormalTextColour(const ColourRect& colours)
 {
-    d_captionColour = colour;
+    d_captionColour = colours;
     invalidate();
 }
 

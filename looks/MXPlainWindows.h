@@ -29,24 +29,28 @@ public:
 
     MXLabel(const String& type, const String& name);
 
-    void setNormalTextColour(const Colour& colour);
-    const Colour& getNormalTextColour() const { return d_normalText; }
-    void setDisabledTextColour(const Colour& colour);
-    const Colour& getDisabledTextColour() const { return d_disabledText; }
+    //! Colours as the stock skins give them: one colour or four corners.
+    void setNormalTextColour(const ColourRect& colours);
+    const ColourRect& getNormalTextColour() const { return d_normalText; }
+    void setDisabledTextColour(const ColourRect& colours);
+    const ColourRect& getDisabledTextColour() const { return d_disabledText; }
+    //! Formatting by CEGUI 0.8's names or the module's; reads back the name it was given.
     void setHorzFormatting(const String& name);
-    String getHorzFormatting() const { return nameOf(d_horz); }
+    const String& getHorzFormatting() const { return d_horzName; }
     void setVertFormatting(const String& name);
-    String getVertFormatting() const { return nameOf(d_vert); }
+    const String& getVertFormatting() const { return d_vertName; }
 
 protected:
     void populateGeometryBuffer() override;
     void onTextChanged(WindowEventArgs& e) override;
 
 private:
-    Colour d_normalText = DefaultNormalTextColour;
-    Colour d_disabledText = DefaultDisabledTextColour;
+    ColourRect d_normalText{DefaultNormalTextColour};
+    ColourRect d_disabledText{DefaultDisabledTextColour};
     HorzTextFormat d_horz = HorzTextFormat::Centred;
     VertTextFormat d_vert = VertTextFormat::Centred;
+    String d_horzName = "CentreAligned";
+    String d_vertName = "CentreAligned";
 };
 
 //! The framed background "MoxieLook/Static" and "MoxieLook/GroupBox" share.
@@ -105,8 +109,8 @@ public:
     //! Window-local rectangle of the caption's backing, empty without a text.
     Rectf captionArea() const;
 
-    void setNormalTextColour(const Colour& colour);
-    const Colour& getNormalTextColour() const { return d_captionColour; }
+    void setNormalTextColour(const ColourRect& colours);
+    const ColourRect& getNormalTextColour() const { return d_captionColour; }
 
 protected:
     void populateGeometryBuffer() override;
@@ -114,7 +118,7 @@ protected:
     void onFontChanged(WindowEventArgs& e) override;
 
 private:
-    Colour d_captionColour = DefaultCaptionColour;
+    ColourRect d_captionColour{DefaultCaptionColour};
 };
 
 class MXTabContentPane : public RedrawnWhenUncovered<DefaultWindow>

@@ -84,8 +84,7 @@ std::vector<MeterSegment> meterSegments(const Rectf& area, float progress, float
         const double farEnd = fromFar ? span - lo : hi;
         first =
             static_cast<std::size_t>(std::clamp(std::floor(nearEnd / pitch), 0.0, double(count)));
-        end =
-            static_cast<std::size_t>(std::clamp(std::ceil(farEnd / pitch), 0.0, double(count)));
+        end = static_cast<std::size_t>(std::clamp(std::ceil(farEnd / pitch), 0.0, double(count)));
     }
     for (std::size_t i = first; i < end; ++i)
     {

@@ -18,6 +18,13 @@ const Colour SelectableShading::DisabledTextLabelColour(0x00888888);
 void drawSelectable(Window& window, const SelectablePicture& picture, const Colour& textColour,
                     float padding)
 {
+    // The look's own colours carry no alpha: the window's is theirs.
+    drawSelectable(window, picture, ColourRect(withAlpha(textColour, 1.0f)), padding);
+}
+
+void drawSelectable(Window& window, const SelectablePicture& picture, const ColourRect& textColours,
+                    float padding)
+{
     if (!hasVisibleArea(window) || !picture.image)
         return;
     const float alpha = window.getEffectiveAlpha();
@@ -27,7 +34,7 @@ void drawSelectable(Window& window, const SelectablePicture& picture, const Colo
     else if (picture.state == ButtonDrawState::Disabled)
         colours = withAlpha(colours, alpha * SelectableShading::DisabledImageAlpha);
     drawImageBesideLabel(window, window.getGeometryBuffer(), *picture.image, picture.overlay,
-                         colours, textColour, padding);
+                         colours, faded(textColours, alpha), padding);
 }
 
 namespace
@@ -167,30 +174,30 @@ MXCheckbox::MXCheckbox(const String& type, const String& name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "NormalTextColour",
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "NormalTextColour",
                           "Property to get/set the label's colour. Value is \"aarrggbb\".",
                           &MXCheckbox::setNormalTextColour, &MXCheckbox::getNormalTextColour,
-                          withAlpha(EnabledTextLabelColour, 1.0f));
-    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "HoverTextColour",
+                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "HoverTextColour",
                           "Property to get/set the label's colour under the pointer. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setHoverTextColour, &MXCheckbox::getHoverTextColour,
-                          withAlpha(EnabledTextLabelColour, 1.0f));
-    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "PushedTextColour",
+                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "PushedTextColour",
                           "Property to get/set the label's colour while pressed. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setPushedTextColour, &MXCheckbox::getPushedTextColour,
-                          withAlpha(EnabledTextLabelColour, 1.0f));
-    CEGUI_DEFINE_PROPERTY(MXCheckbox, Colour, "DisabledTextColour",
+                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "DisabledTextColour",
                           "Property to get/set the label's colour while disabled. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setDisabledTextColour, &MXCheckbox::getDisabledTextColour,
-                          withAlpha(DisabledTextLabelColour, 1.0f));
+                          ColourRect(withAlpha(DisabledTextLabelColour, 1.0f)));
 }
 
-void MXCheckbox::setLabelColour(Colour& slot, const Colour& colour)
+void MXCheckbox::setLabelColour(ColourRect& slot, const ColourRect& colours)
 {
-    slot = colour;
+    slot = colours;
     invalidate();
 }
 

@@ -38,6 +38,9 @@ struct SelectableShading
 
 void drawSelectable(Window& window, const SelectablePicture& picture, const Colour& textColour,
                     float padding);
+//! The same with colours as the stock skins give them (their own alpha, times the window's).
+void drawSelectable(Window& window, const SelectablePicture& picture, const ColourRect& textColours,
+                    float padding);
 
 class MXToggleButton : public ToggleButton, public SelectableShading
 {
@@ -105,26 +108,29 @@ public:
     MXCheckbox(const String& type, const String& name);
 
     //! The label's colour per state, as the stock skins set them ("NormalTextColour", ...).
-    void setNormalTextColour(const Colour& colour) { setLabelColour(d_normalText, colour); }
-    const Colour& getNormalTextColour() const { return d_normalText; }
-    void setHoverTextColour(const Colour& colour) { setLabelColour(d_hoverText, colour); }
-    const Colour& getHoverTextColour() const { return d_hoverText; }
-    void setPushedTextColour(const Colour& colour) { setLabelColour(d_pushedText, colour); }
-    const Colour& getPushedTextColour() const { return d_pushedText; }
-    void setDisabledTextColour(const Colour& colour) { setLabelColour(d_disabledText, colour); }
-    const Colour& getDisabledTextColour() const { return d_disabledText; }
+    void setNormalTextColour(const ColourRect& colours) { setLabelColour(d_normalText, colours); }
+    const ColourRect& getNormalTextColour() const { return d_normalText; }
+    void setHoverTextColour(const ColourRect& colours) { setLabelColour(d_hoverText, colours); }
+    const ColourRect& getHoverTextColour() const { return d_hoverText; }
+    void setPushedTextColour(const ColourRect& colours) { setLabelColour(d_pushedText, colours); }
+    const ColourRect& getPushedTextColour() const { return d_pushedText; }
+    void setDisabledTextColour(const ColourRect& colours)
+    {
+        setLabelColour(d_disabledText, colours);
+    }
+    const ColourRect& getDisabledTextColour() const { return d_disabledText; }
 
 protected:
     void populateGeometryBuffer() override;
     void onSelectStateChange(WindowEventArgs& e) override;
 
 private:
-    void setLabelColour(Colour& slot, const Colour& colour);
+    void setLabelColour(ColourRect& slot, const ColourRect& colours);
 
-    Colour d_normalText;
-    Colour d_hoverText;
-    Colour d_pushedText;
-    Colour d_disabledText;
+    ColourRect d_normalText;
+    ColourRect d_hoverText;
+    ColourRect d_pushedText;
+    ColourRect d_disabledText;
     const Image* d_normal;
     const Image* d_highlight;
     const Image* d_checkMark;

@@ -22,21 +22,22 @@ MXTitlebar::MXTitlebar(const String& type, const String& name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXTitlebar, Colour, "CaptionColour",
-                          "Property to get/set the caption's colour. Value is \"aarrggbb\".",
+    CEGUI_DEFINE_PROPERTY(MXTitlebar, ColourRect, "CaptionColour",
+                          "Property to get/set the caption's colours. Value is \"aarrggbb\" or "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXTitlebar::setCaptionColour, &MXTitlebar::getCaptionColour,
-                          withAlpha(ActiveTextColour, 1.0f));
+                          ColourRect(withAlpha(ActiveTextColour, 1.0f)));
 }
 
-void MXTitlebar::setCaptionColour(const Colour& colour)
+void MXTitlebar::setCaptionColour(const ColourRect& colours)
 {
-    d_captionColour = colour;
+    d_captionColour = colours;
     invalidate();
 }
 
-Colour MXTitlebar::getCaptionColour() const
+ColourRect MXTitlebar::getCaptionColour() const
 {
-    return d_captionColour.value_or(withAlpha(ActiveTextColour, 1.0f));
+    return d_captionColour.value_or(ColourRect(withAlpha(ActiveTextColour, 1.0f)));
 }
 
 float MXTitlebar::barHeight() const
@@ -103,7 +104,7 @@ void MXTitlebar::populateGeometryBuffer()
     drawText(*this, buffer, getRenderedString(), text, HorzTextFormat::Left,
              VertTextFormat::Centred,
              d_captionColour
-                 ? faded(ColourRect(*d_captionColour), alpha)
+                 ? faded(*d_captionColour, alpha)
                  : ColourRect(withAlpha(active ? ActiveTextColour : InactiveTextColour, alpha)),
              &text);
 }

@@ -31,8 +31,8 @@ public:
     static const Colour InactiveTextColour;
 
     //! The stock skins' "CaptionColour": the text's colour in both states, once set.
-    void setCaptionColour(const Colour& colour);
-    Colour getCaptionColour() const;
+    void setCaptionColour(const ColourRect& colours);
+    ColourRect getCaptionColour() const;
     //! Room kept free of text at the right, for the window's buttons.
     static constexpr float ButtonRoom = 60.0f;
 
@@ -55,7 +55,7 @@ protected:
     void onFontChanged(WindowEventArgs& e) override;
 
 private:
-    std::optional<Colour> d_captionColour;
+    std::optional<ColourRect> d_captionColour;
     bool onFrameWindow() const;
 
     ThreePieceBar d_bar;

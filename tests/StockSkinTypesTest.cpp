@@ -496,7 +496,8 @@ TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
         box.setProperty("NormalTextColour", "FF112233");
         box.setProperty("SelectedTextColour", "FFFFEE00");
         box.setProperty("ActiveSelectionColour", "FF00FF00");
-        EXPECT_EQ(box.getProperty("NormalTextColour"), "FF112233");
+        EXPECT_EQ(box.getProperty("NormalTextColour"),
+                  "tl:FF112233 tr:FF112233 bl:FF112233 br:FF112233");
         // Unselected, the text takes the normal colour; wholly selected, the selected one
         // over the tinted brush.
         const auto plain = find(drawnBy(box), "text");
@@ -525,7 +526,8 @@ TEST_F(StockSkinTypesTest, ACheckBoxLabelTakesTheStockSkinsColourOfItsState)
     box.setProperty("NormalTextColour", "FF112233");
     box.setProperty("HoverTextColour", "FF445566");
     box.setProperty("DisabledTextColour", "FF778899");
-    EXPECT_EQ(box.getProperty("HoverTextColour"), "FF445566");
+    EXPECT_EQ(box.getProperty("HoverTextColour"),
+              "tl:FF445566 tr:FF445566 bl:FF445566 br:FF445566");
     auto label = [&] { return argb(find(drawnBy(box), "text")->colours.d_top_left); };
     EXPECT_EQ(label(), 0xFF112233u);
     moxietest::pointerTo(80, 20);
@@ -540,8 +542,9 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     Window& frame = moxietest::place("MoxieLook/FrameWindow", 10, 10, 300, 200);
     frame.setText("Notes");
     Window* bar = static_cast<FrameWindow&>(frame).getTitlebar();
-    frame.setProperty("CaptionColour", "FF102030");
-    EXPECT_EQ(bar->getProperty("CaptionColour"), "FF102030");
+    // The stock skins write colours as four corners.
+    frame.setProperty("CaptionColour", "tl:FF102030 tr:FF102030 bl:FF102030 br:FF102030");
+    EXPECT_EQ(bar->getProperty("CaptionColour"), "tl:FF102030 tr:FF102030 bl:FF102030 br:FF102030");
     EXPECT_EQ(argb(find(drawnBy(*bar), "text")->colours.d_top_left), 0xFF102030u);
     frame.setProperty("ClientAreaColour", "FFF0E0D0");
     const auto client = find(drawnBy(frame), "Background");
