@@ -52,23 +52,27 @@ void loadWhatTheLayoutNames(const std::string& text)
     if (text.find("\"Generic/") != std::string::npos &&
         !SchemeManager::getSingleton().isDefined("Generic"))
         SchemeManager::getSingleton().createFromFile("Generic.scheme", "cegui-schemes");
-    // Image names: "Imageset/Image" in property values and in text markup.
-    std::set<std::string> imagesets = matches(text, std::regex("value=\"([A-Za-z]+)/"));
-    imagesets.merge(matches(text, std::regex("image=&apos;([A-Za-z]+)/")));
-    for (const std::string& imageset : imagesets)
-        if (std::filesystem::exists(Samples / "imagesets" / (imageset + ".imageset")) &&
-            !ImageManager::getSingleton().isDefined(imageset + "/full_image") &&
-            !ImageManager::getSingleton().isDefined(imageset + "/"))
+    // Image names: "Imageset/Image" in property values and in text markup; an imageset's
+    // name is the one its file gives, not always the file's.
+    std::set<std::string> imagesets = matches(text, std::regex("value=\"([A-Za-z0-9_-]+)/"));
+    imagesets.merge(matches(text, std::regex("image=&apos;([A-Za-z0-9_-]+)/")));
+    for (const auto& entry : std::filesystem::directory_iterator(Samples / "imagesets"))
+    {
+        if (entry.path().extension() != ".imageset")
+            continue;
+        const std::set<std::string> names =
+            matches(readFile(entry.path().string()), std::regex("<Imageset[^>]*name=\"([^\"]+)\""));
+        if (names.empty() || !imagesets.count(*names.begin()))
+            continue;
+        try
         {
-            try
-            {
-                ImageManager::getSingleton().loadImageset(imageset + ".imageset");
-            }
-            catch (const AlreadyExistsException&)
-            {
-                // loaded by a scheme already
-            }
+            ImageManager::getSingleton().loadImageset(entry.path().filename().string());
         }
+        catch (const AlreadyExistsException&)
+        {
+            // loaded by a scheme already
+        }
+    }
     std::set<std::string> fonts = matches(text, std::regex("Font\" value=\"([^\"]+)\""));
     fonts.merge(matches(text, std::regex("font=&apos;([^&]+)&apos;")));
     for (const std::string& font : fonts)

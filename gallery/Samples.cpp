@@ -172,9 +172,9 @@ const std::vector<Sample>& samples()
     static const std::vector<Sample> all = []
     {
         std::vector<Sample> gathered;
-        for (auto group : {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples,
-                           chartSamples, menuSamples, tabSamples, windowSamples, columnSamples,
-                           stockSkinSamples})
+        for (auto group :
+             {staticAndScrollingSamples, selectableSamples, treeSamples, inputSamples, chartSamples,
+              menuSamples, tabSamples, windowSamples, columnSamples, stockSkinSamples})
             for (Sample& sample : group())
                 gathered.push_back(std::move(sample));
         return gathered;

@@ -2,7 +2,7 @@
 //
 //   moxie-gallery                 a window to try every widget by hand
 //   moxie-gallery --screenshot D  writes D/gallery.png and one D/<Type>.png per type
-//   moxie-gallery --layout FILE [--scheme NAME.scheme] [--screenshot OUT.png]
+//   moxie-gallery --layout FILE [--scheme NAME.scheme ...] [--screenshot OUT.png]
 //                                 any layout file in MoxieLook (through an alias scheme
 //                                 for layouts written for a stock skin), in a window or
 //                                 as a picture
@@ -41,7 +41,7 @@ struct Options
     std::string screenshotDir; //!< or, with a layout, the picture's file
     std::string dataDir = MOXIE_DATA_DIR;
     std::string layout;
-    std::string scheme = "MoxieLook.scheme";
+    std::vector<std::string> schemes; //!< none given: MoxieLook.scheme
 };
 
 Options parse(int argc, char** argv)
@@ -57,7 +57,7 @@ Options parse(int argc, char** argv)
         else if (arg == "--layout" && i + 1 < argc)
             options.layout = argv[++i];
         else if (arg == "--scheme" && i + 1 < argc)
-            options.scheme = argv[++i];
+            options.schemes.push_back(argv[++i]); // several for a layout of several skins
         else
         {
             std::cerr << "usage: moxie-gallery [--screenshot DIR] [--data DIR]\n"
@@ -337,8 +337,11 @@ int main(int argc, char** argv)
     resources->setResourceGroupDirectory("moxielook", options.dataDir.c_str());
     resources->setDefaultResourceGroup("moxielook");
     WindowFactoryManager::addFactory<TplWindowFactory<gallery::Label>>();
-    SchemeManager::getSingleton().createFromFile(options.layout.empty() ? "MoxieLook.scheme"
-                                                                        : options.scheme);
+    if (options.layout.empty() || options.schemes.empty())
+        SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    else
+        for (const std::string& scheme : options.schemes)
+            SchemeManager::getSingleton().createFromFile(scheme);
     gallery::registerShownHoveredTypes();
     // A host maps the module's sound names to sounds; the gallery just says them.
     MoxieLook::MXSoundification::GetInstance().RegisterHook(

@@ -2,6 +2,11 @@
 // "BlinkCaret" and "BlinkCaretTimeout"), always shown when not.
 #pragma once
 
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/TplWindowProperty.h>
+#include <cmath>
+
 namespace CEGUI
 {
 namespace MoxieLook
@@ -36,7 +41,36 @@ struct CaretBlink
         elapsed = 0;
         shown = true;
     }
+
+    //! A period no number of seconds is refused, naming the property.
+    void setPeriod(float seconds)
+    {
+        if (!(seconds >= 0) || !std::isfinite(seconds))
+            throw InvalidRequestException("\"BlinkCaretTimeout\": '" +
+                                          PropertyHelper<float>::toString(seconds) +
+                                          "' is no number of seconds.");
+        period = seconds;
+    }
 };
+
+//! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout" on an edit box look that has
+//! `setBlinkCaret`, `isBlinkCaret`, `setBlinkCaretTimeout` and `getBlinkCaretTimeout`.
+template <typename Owner>
+void addCaretBlinkProperties(Owner& owner, float defaultPeriod)
+{
+    static TplWindowProperty<Owner, bool> blink(
+        "BlinkCaret",
+        "Property to get/set whether the caret blinks. Value is either \"True\" "
+        "or \"False\".",
+        "MoxieLook/CaretBlink", &Owner::setBlinkCaret, &Owner::isBlinkCaret, true);
+    static TplWindowProperty<Owner, float> timeout(
+        "BlinkCaretTimeout",
+        "Property to get/set the seconds the caret stays shown, then hidden. Value is a float.",
+        "MoxieLook/CaretBlink", &Owner::setBlinkCaretTimeout, &Owner::getBlinkCaretTimeout,
+        defaultPeriod);
+    owner.addProperty(&blink);
+    owner.addProperty(&timeout);
+}
 
 } // namespace MoxieLook
 } // namespace CEGUI

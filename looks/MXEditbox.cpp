@@ -19,16 +19,7 @@ MXEditbox::MXEditbox(const String& type, const String& name) : EditboxEx(type, n
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXEditboxRenderer::TypeName);
     addEditboxColourProperties(*this);
-    const String propertyOrigin("MoxieLook/MXEditbox");
-    CEGUI_DEFINE_PROPERTY(MXEditbox, bool, "BlinkCaret",
-                          "Property to get/set whether the caret blinks. Value is either "
-                          "\"True\" or \"False\".",
-                          &MXEditbox::setBlinkCaret, &MXEditbox::isBlinkCaret, true);
-    CEGUI_DEFINE_PROPERTY(MXEditbox, float, "BlinkCaretTimeout",
-                          "Property to get/set the seconds the caret stays shown, then hidden. "
-                          "Value is a float.",
-                          &MXEditbox::setBlinkCaretTimeout, &MXEditbox::getBlinkCaretTimeout,
-                          CaretBlinkTime);
+    addCaretBlinkProperties(*this, CaretBlinkTime);
 }
 
 Rectf MXEditbox::textArea() const
@@ -144,11 +135,7 @@ void MXEditbox::setBlinkCaret(bool blink)
 
 void MXEditbox::setBlinkCaretTimeout(float seconds)
 {
-    if (!(seconds >= 0) || !std::isfinite(seconds))
-        throw InvalidRequestException("\"BlinkCaretTimeout\": '" +
-                                      PropertyHelper<float>::toString(seconds) +
-                                      "' is no number of seconds.");
-    d_blink.period = seconds;
+    d_blink.setPeriod(seconds);
     restartBlink();
 }
 

@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 #include "looks/ListDrawing.h"
 #include "looks/MXListbox.h"
 
@@ -54,9 +55,10 @@ void MXItemListbox::initialiseComponents()
         }
     RedrawnWhenUncovered<ItemListbox>::initialiseComponents();
     // CEGUI shows and hides the bars after the layout: each one's length depends on the other.
+    std::size_t watched = 0;
     for (Scrollbar* bar : {getVertScrollbar(), getHorzScrollbar()})
         for (const String* event : {&Window::EventShown, &Window::EventHidden})
-            bar->subscribeEvent(*event, [this] { layOutBars(); });
+            d_barWatches[watched++] = bar->subscribeEvent(*event, [this] { layOutBars(); });
     layOutBars();
 }
 
@@ -73,28 +75,15 @@ void MXItemListbox::layOutBars()
     Window* horz = partOrNull(*this, HorzScrollbarName);
     if (!vert || !horz)
         return;
-    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    const float t = ScrollbarThickness;
-    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
-    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
-    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
-                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
-    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
-                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+    layOutInnerBars(vert, horz, d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
+                    ScrollbarThickness);
 }
 
 Rectf MXItemListbox::itemRenderArea() const
 {
-    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    const Window* vert = partOrNull(*this, VertScrollbarName);
-    const Window* horz = partOrNull(*this, HorzScrollbarName);
-    if (vert && vert->isVisible())
-        area.d_max.d_x -= ScrollbarThickness;
-    if (horz && horz->isVisible())
-        area.d_max.d_y -= ScrollbarThickness;
-    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
-    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
-    return area;
+    return areaBesideInnerBars(d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
+                               partOrNull(*this, VertScrollbarName),
+                               partOrNull(*this, HorzScrollbarName), ScrollbarThickness);
 }
 
 Rectf MXItemListbox::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const

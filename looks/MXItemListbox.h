@@ -11,6 +11,7 @@
 
 #include <CEGUI/widgets/ItemEntry.h>
 #include <CEGUI/widgets/ItemListbox.h>
+#include <array>
 
 namespace CEGUI
 {
@@ -41,6 +42,8 @@ protected:
 private:
     void layOutBars();
 
+    //! The bars' shown and hidden events, let go with the look.
+    std::array<Event::ScopedConnection, 4> d_barWatches;
     NinePieceFrame d_frame;
 };
 

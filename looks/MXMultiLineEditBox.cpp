@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
@@ -24,17 +25,7 @@ MXMultiLineEditBox::MXMultiLineEditBox(const String& type, const String& name)
     // A caret that just moved is shown at once.
     subscribeEvent(EventCaretMoved, [this] { restartBlink(); });
     addEditboxColourProperties(*this);
-    const String propertyOrigin("MoxieLook/MXMultiLineEditBox");
-    CEGUI_DEFINE_PROPERTY(MXMultiLineEditBox, bool, "BlinkCaret",
-                          "Property to get/set whether the caret blinks. Value is either "
-                          "\"True\" or \"False\".",
-                          &MXMultiLineEditBox::setBlinkCaret, &MXMultiLineEditBox::isBlinkCaret,
-                          true);
-    CEGUI_DEFINE_PROPERTY(MXMultiLineEditBox, float, "BlinkCaretTimeout",
-                          "Property to get/set the seconds the caret stays shown, then hidden. "
-                          "Value is a float.",
-                          &MXMultiLineEditBox::setBlinkCaretTimeout,
-                          &MXMultiLineEditBox::getBlinkCaretTimeout, CaretBlinkTime);
+    addCaretBlinkProperties(*this, CaretBlinkTime);
 }
 
 void MXMultiLineEditBox::initialiseComponents()
@@ -74,25 +65,15 @@ void MXMultiLineEditBox::layOutBars()
     Window* horz = partOrNull(*this, HorzScrollbarName);
     if (!vert || !horz)
         return;
-    const Rectf inner = d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    const float t = ScrollbarThickness;
-    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
-    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
-    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
-                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
-    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
-                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+    layOutInnerBars(vert, horz, d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
+                    ScrollbarThickness);
 }
 
 Rectf MXMultiLineEditBox::textRenderArea() const
 {
-    Rectf area = d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    const Window* vert = partOrNull(*this, VertScrollbarName);
-    const Window* horz = partOrNull(*this, HorzScrollbarName);
-    if (vert && vert->isVisible())
-        area.d_max.d_x -= ScrollbarThickness;
-    if (horz && horz->isVisible())
-        area.d_max.d_y -= ScrollbarThickness;
+    Rectf area = areaBesideInnerBars(d_imagery.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
+                                     partOrNull(*this, VertScrollbarName),
+                                     partOrNull(*this, HorzScrollbarName), ScrollbarThickness);
     area.d_min.d_x += EditboxImagery::TextPadding;
     area.d_max.d_x -= EditboxImagery::TextPadding;
     area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
@@ -209,11 +190,7 @@ void MXMultiLineEditBox::setBlinkCaret(bool blink)
 
 void MXMultiLineEditBox::setBlinkCaretTimeout(float seconds)
 {
-    if (!(seconds >= 0) || !std::isfinite(seconds))
-        throw InvalidRequestException("\"BlinkCaretTimeout\": '" +
-                                      PropertyHelper<float>::toString(seconds) +
-                                      "' is no number of seconds.");
-    d_blink.period = seconds;
+    d_blink.setPeriod(seconds);
     restartBlink();
 }
 

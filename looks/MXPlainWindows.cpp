@@ -142,7 +142,7 @@ void MXFramedWindow::setFrameEnabled(bool enabled)
 {
     d_frameEnabled = enabled;
     invalidate();
-    notifyScreenAreaChanged(); // the inner area moves
+    innerAreaChanged();
 }
 
 void MXFramedWindow::setBackgroundEnabled(bool enabled)
@@ -161,6 +161,13 @@ void MXFramedWindow::setBackgroundColours(const ColourRect& colours)
 {
     d_backgroundColours = colours;
     invalidate();
+}
+
+void MXFramedWindow::innerAreaChanged()
+{
+    // Children sized against the inner area follow it, as on a resize.
+    notifyScreenAreaChanged();
+    performChildWindowLayout(false, true);
 }
 
 Rectf MXFramedWindow::frameArea() const
@@ -231,7 +238,7 @@ Rectf MXGroupBox::captionArea() const
     const Font* font = getFont();
     if (!font || getText().empty())
         return Rectf(0, 0, 0, 0);
-    const float width = font->getTextExtent(getText()) + 2 * CaptionPadding;
+    const float width = font->getTextExtent(getTextVisual()) + 2 * CaptionPadding;
     const float right = std::min(CaptionIndent + width, getPixelSize().d_width - CaptionIndent);
     return Rectf(CaptionIndent, 0, std::max(CaptionIndent, right), font->getLineSpacing());
 }
@@ -240,26 +247,32 @@ void MXGroupBox::onTextChanged(WindowEventArgs& e)
 {
     MXFramedWindow::onTextChanged(e);
     invalidate();
-    notifyScreenAreaChanged(); // the caption band moves the inner area
+    innerAreaChanged(); // the caption band moves it
 }
 
 void MXGroupBox::onFontChanged(WindowEventArgs& e)
 {
     MXFramedWindow::onFontChanged(e);
-    notifyScreenAreaChanged();
+    innerAreaChanged();
 }
 
 void MXGroupBox::populateGeometryBuffer()
 {
     const Rectf caption = captionArea();
+    // Without a caption, or without a frame to break, the plain framed window.
     if (caption.getWidth() <= 0 || !isFrameEnabled())
         MXFramedWindow::populateGeometryBuffer();
     if (!hasVisibleArea(*this) || caption.getWidth() <= 0)
         return;
-    // The frame's top edge breaks where the caption stands, whatever lies behind the box.
     GeometryBuffer& buffer = getGeometryBuffer();
-    const Rectf area = frameArea();
     const float alpha = getEffectiveAlpha();
+    const Rectf text(caption.left() + CaptionPadding, caption.top(),
+                     caption.right() - CaptionPadding, caption.bottom());
+    if (!isFrameEnabled())
+        return drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred,
+                              d_captionColour);
+    // The frame's top edge breaks where the caption stands, whatever lies behind the box.
+    const Rectf area = frameArea();
     if (isBackgroundEnabled())
         d_background->render(buffer, d_frame.innerRect(area), nullptr,
                              faded(getBackgroundColours(), alpha));
@@ -271,8 +284,6 @@ void MXGroupBox::populateGeometryBuffer()
                               Rectf(caption.right(), 0, size.d_width, size.d_height),
                               Rectf(caption.left(), edgeBottom, caption.right(), size.d_height)})
         d_frame.draw(buffer, area.d_min, &clip);
-    const Rectf text(caption.left() + CaptionPadding, caption.top(),
-                     caption.right() - CaptionPadding, caption.bottom());
     drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred, d_captionColour);
 }
 

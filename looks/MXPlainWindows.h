@@ -70,6 +70,8 @@ public:
 
     //! Window-local: where the frame is drawn (all of the window but a caption band).
     virtual Rectf frameArea() const;
+    //! The area inside the frame moved: children are placed and sized again.
+    void innerAreaChanged();
 
 protected:
     void populateGeometryBuffer() override;

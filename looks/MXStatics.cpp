@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
@@ -91,8 +92,34 @@ void MXStaticText::initialiseComponents()
             bar->setNonClient(true);
             bar->hide();
             addChild(bar);
-            bar->subscribeEvent(Scrollbar::EventScrollPositionChanged, [this] { invalidate(); });
         }
+    d_vertScrolled = getVertScrollbar()->subscribeEvent(Scrollbar::EventScrollPositionChanged,
+                                                        [this] { invalidate(); });
+    d_horzScrolled = getHorzScrollbar()->subscribeEvent(Scrollbar::EventScrollPositionChanged,
+                                                        [this] { invalidate(); });
+}
+
+Rectf MXStaticText::contentArea() const
+{
+    return localInnerRect();
+}
+
+void MXStaticText::onTextChanged(WindowEventArgs& e)
+{
+    StaticText::onTextChanged(e);
+    configureScrollbars(contentArea());
+}
+
+void MXStaticText::onFontChanged(WindowEventArgs& e)
+{
+    StaticText::onFontChanged(e);
+    configureScrollbars(contentArea());
+}
+
+void MXStaticText::onSized(ElementEventArgs& e)
+{
+    StaticText::onSized(e);
+    configureScrollbars(contentArea());
 }
 
 Scrollbar* MXStaticText::getVertScrollbar() const
@@ -108,12 +135,14 @@ Scrollbar* MXStaticText::getHorzScrollbar() const
 void MXStaticText::setVertScrollbarEnabled(bool enabled)
 {
     d_vertEnabled = enabled;
+    configureScrollbars(contentArea());
     invalidate();
 }
 
 void MXStaticText::setHorzScrollbarEnabled(bool enabled)
 {
     d_horzEnabled = enabled;
+    configureScrollbars(contentArea());
     invalidate();
 }
 
@@ -148,9 +177,15 @@ Rectf MXStaticText::configureScrollbars(const Rectf& inner)
 {
     Scrollbar* vert = getVertScrollbar();
     Scrollbar* horz = getHorzScrollbar();
-    if (!vert || !horz || !getFont())
+    if (!vert || !horz)
         return inner;
-    const float t = ScrollbarThickness;
+    if (!getFont() || (!d_vertEnabled && !d_horzEnabled))
+    {
+        vert->hide();
+        horz->hide();
+        return inner;
+    }
+    const float t = InnerBarThickness;
     // The text's size in the area left beside the bars: a shown bar narrows the other way.
     Sizef text =
         measureText(*this, getRenderedString(), inner.getWidth(), getHorizontalFormatting());
@@ -161,11 +196,7 @@ Rectf MXStaticText::configureScrollbars(const Rectf& inner)
     const bool needHorz = d_horzEnabled && text.d_width > inner.getWidth() - (needVert ? t : 0.0f);
     vert->setVisible(needVert);
     horz->setVisible(needHorz);
-    Rectf area = inner;
-    if (needVert)
-        area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x - t);
-    if (needHorz)
-        area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y - t);
+    const Rectf area = areaBesideInnerBars(inner, vert, horz);
     vert->setDocumentSize(text.d_height);
     vert->setPageSize(area.getHeight());
     vert->setStepSize(std::max(1.0f, area.getHeight() / 10.0f));
@@ -174,23 +205,8 @@ Rectf MXStaticText::configureScrollbars(const Rectf& inner)
     horz->setPageSize(area.getWidth());
     horz->setStepSize(std::max(1.0f, area.getWidth() / 10.0f));
     horz->setScrollPosition(needHorz ? horz->getScrollPosition() : 0.0f);
-    layOutBars(inner);
+    layOutInnerBars(vert, horz, inner);
     return area;
-}
-
-void MXStaticText::layOutBars(const Rectf& inner)
-{
-    Scrollbar* vert = getVertScrollbar();
-    Scrollbar* horz = getHorzScrollbar();
-    if (!vert || !horz)
-        return;
-    const float t = ScrollbarThickness;
-    const float vertLength = inner.getHeight() - (horz->isVisible() ? t : 0);
-    const float horzLength = inner.getWidth() - (vert->isVisible() ? t : 0);
-    vert->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
-                  USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
-    horz->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
-                  USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
 }
 
 void MXStaticText::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
@@ -201,9 +217,9 @@ void MXStaticText::performChildWindowLayout(bool nonclientSizedHint, bool client
 
 void MXStaticText::drawContent(GeometryBuffer& buffer, const Rectf& inner)
 {
-    if (!d_vertEnabled && !d_horzEnabled)
-        return StaticText::drawContent(buffer, inner);
     const Rectf area = configureScrollbars(inner);
+    if ((!d_vertEnabled && !d_horzEnabled) || !getVertScrollbar() || !getHorzScrollbar())
+        return StaticText::drawContent(buffer, inner);
     // Scrolled: the text moves under an area that clips it.
     Rectf moved = area;
     moved.offset(Vector2f(-getHorzScrollbar()->getScrollPosition(),

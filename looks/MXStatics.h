@@ -12,6 +12,8 @@
 #include "widgets/StaticText.h"
 #include "widgets/TextItemEx.h"
 
+#include <CEGUI/Event.h>
+
 namespace CEGUI
 {
 class Scrollbar;
@@ -75,16 +77,24 @@ public:
 protected:
     void drawContent(GeometryBuffer& buffer, const Rectf& inner) override;
     void onMouseWheel(MouseEventArgs& e) override;
+    //! The bars follow the text's size as CEGUI's static text keeps them: on every change.
+    void onTextChanged(WindowEventArgs& e) override;
+    void onFontChanged(WindowEventArgs& e) override;
+    void onSized(ElementEventArgs& e) override;
 
 private:
     //! Shows the bars the text needs inside `inner` and gives them its sizes; returns the
     //! area left for the text.
     Rectf configureScrollbars(const Rectf& inner);
-    void layOutBars(const Rectf& inner);
     void addScrollProperties();
+
+    //! The window-local area inside the frame, where the text and the bars go.
+    Rectf contentArea() const;
 
     bool d_vertEnabled = false;
     bool d_horzEnabled = false;
+    Event::ScopedConnection d_vertScrolled;
+    Event::ScopedConnection d_horzScrolled;
 };
 
 //! "MoxieLook/StaticImage": a bare picture; frame and fill can be switched on.

@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 #include "looks/MXListbox.h"
 
 #include <CEGUI/Image.h>
@@ -70,6 +71,7 @@ void MXTree::initialise()
         return; // made already
     d_vertScrollbar = createVertScrollbar(VertScrollbarName);
     d_horzScrollbar = createHorzScrollbar(HorzScrollbarName);
+    std::size_t watched = 0;
     for (Scrollbar* bar : {d_vertScrollbar, d_horzScrollbar})
     {
         bar->setNonClient(true);
@@ -79,7 +81,7 @@ void MXTree::initialise()
             Scrollbar::EventScrollPositionChanged,
             Event::Subscriber(&MXTree::handle_scrollChange, static_cast<Tree*>(this)));
         for (const String* event : {&Window::EventShown, &Window::EventHidden})
-            bar->subscribeEvent(*event, [this] { layOutBars(); });
+            d_barWatches[watched++] = bar->subscribeEvent(*event, [this] { layOutBars(); });
     }
     configureScrollbars();
     performChildWindowLayout();
@@ -108,28 +110,14 @@ void MXTree::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedH
 
 void MXTree::layOutBars()
 {
-    if (!d_vertScrollbar || !d_horzScrollbar)
-        return;
-    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    const float t = ScrollbarThickness;
-    const float vertLength = inner.getHeight() - (d_horzScrollbar->isVisible() ? t : 0);
-    const float horzLength = inner.getWidth() - (d_vertScrollbar->isVisible() ? t : 0);
-    d_vertScrollbar->setArea(UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
-                             USize(cegui_absdim(t), cegui_absdim(std::max(0.0f, vertLength))));
-    d_horzScrollbar->setArea(UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
-                             USize(cegui_absdim(std::max(0.0f, horzLength)), cegui_absdim(t)));
+    layOutInnerBars(d_vertScrollbar, d_horzScrollbar,
+                    d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())), ScrollbarThickness);
 }
 
 Rectf MXTree::getTreeRenderArea() const
 {
-    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize()));
-    if (d_vertScrollbar && d_vertScrollbar->isVisible())
-        area.d_max.d_x -= ScrollbarThickness;
-    if (d_horzScrollbar && d_horzScrollbar->isVisible())
-        area.d_max.d_y -= ScrollbarThickness;
-    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
-    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
-    return area;
+    return areaBesideInnerBars(d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
+                               d_vertScrollbar, d_horzScrollbar, ScrollbarThickness);
 }
 
 void MXTree::cacheTreeBaseImagery()

@@ -10,6 +10,7 @@
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/Tree.h>
+#include <array>
 
 namespace CEGUI
 {
@@ -55,6 +56,8 @@ private:
     //! Gives items (and their sub-items) the look's selection brush where they have none.
     void styleItems(const std::vector<TreeItem*>& items);
 
+    //! The bars' shown and hidden events, let go with the look.
+    std::array<Event::ScopedConnection, 4> d_barWatches;
     NinePieceFrame d_frame;
 };
 

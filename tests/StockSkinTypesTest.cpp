@@ -572,3 +572,39 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     EXPECT_EQ(other.getTabCount(), 1u);
     EXPECT_EQ(other.getProperty("TabButtonType"), "MoxieLook/TabButton");
 }
+
+TEST_F(StockSkinTypesTest, SwitchedOffBarsAndFramesLeaveAndChildrenFollowTheInnerArea)
+{
+    // A static text's bar goes again when switched off, and its sizes are there before a draw.
+    auto& text =
+        static_cast<MXStaticText&>(moxietest::place("MoxieLook/StaticText", 10, 10, 200, 60));
+    String lines;
+    for (int i = 0; i < 12; ++i)
+        lines += "Line " + PropertyHelper<int>::toString(i) + "\n";
+    text.setText(lines);
+    text.setProperty("VertScrollbar", "True");
+    EXPECT_TRUE(text.getVertScrollbar()->isVisible());
+    EXPECT_GT(PropertyHelper<float>::fromString(text.getProperty("VertScrollDocumentSize")), 60);
+    text.setProperty("VertScrollbar", "False");
+    EXPECT_FALSE(text.getVertScrollbar()->isVisible());
+    EXPECT_FALSE(find(drawnBy(text), "text")->rect.right() > 190); // no room kept for a bar
+
+    // A group box without its frame still shows its caption, and draws no frame piece.
+    Window& box = moxietest::place("MoxieLook/GroupBox", 10, 100, 200, 100);
+    box.setText("Sound");
+    box.setProperty("FrameEnabled", "False");
+    const auto quads = drawnBy(box);
+    EXPECT_TRUE(find(quads, "text"));
+    EXPECT_FALSE(find(quads, "StaticFrameTop"));
+    EXPECT_FALSE(find(quads, "StaticFrameTopLeft"));
+
+    // A child sized against a static's inside grows when the frame goes.
+    Window& frame = moxietest::place("MoxieLook/Static", 250, 10, 120, 60);
+    Window* child = WindowManager::getSingleton().createWindow("DefaultWindow");
+    frame.addChild(child);
+    child->setArea(URect(cegui_reldim(0), cegui_reldim(0), cegui_reldim(1), cegui_reldim(1)));
+    const float framed = child->getPixelSize().d_width;
+    frame.setProperty("FrameEnabled", "False");
+    EXPECT_EQ(child->getPixelSize().d_width, 120);
+    EXPECT_LT(framed, 120);
+}
