@@ -8,6 +8,7 @@
 
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Scrollbar.h>
 
@@ -121,6 +122,72 @@ MXListboxItem::MXListboxItem(const String& type, const String& name)
     setSelectable(true);
     // What an item does not take (the wheel) goes on to its list, as CEGUI's skins have it.
     setMouseInputPropagationEnabled(true);
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "TextColour",
+                          "Property to get/set the text colours. Value is \"aarrggbb\" or "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXListboxItem::setTextColour, &MXListboxItem::getTextColour,
+                          ColourRect(withAlpha(TextColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectedTextColour",
+                          "Property to get/set the selected text's colours. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXListboxItem::setSelectedTextColour,
+                          &MXListboxItem::getSelectedTextColour,
+                          ColourRect(withAlpha(SelectedTextColour, 1.0f)));
+    CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectionColour",
+                          "Property to get/set the tint of the selection brush. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXListboxItem::setSelectionColour, &MXListboxItem::getSelectionColour,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXListboxItem, Image*, "SelectionBrush",
+                          "Property to get/set the image under a selected item. Value is an "
+                          "image name such as \"MoxieLook/ListboxSelectionBrush\".",
+                          &MXListboxItem::setSelectionBrush, &MXListboxItem::getSelectionBrush,
+                          nullptr);
+}
+
+void MXListboxItem::setTextColour(const ColourRect& colours)
+{
+    d_textColour = colours;
+    invalidate();
+}
+
+ColourRect MXListboxItem::getTextColour() const
+{
+    return d_textColour.value_or(ColourRect(withAlpha(TextColour, 1.0f)));
+}
+
+void MXListboxItem::setSelectedTextColour(const ColourRect& colours)
+{
+    d_selectedTextColour = colours;
+    invalidate();
+}
+
+ColourRect MXListboxItem::getSelectedTextColour() const
+{
+    return d_selectedTextColour.value_or(ColourRect(withAlpha(SelectedTextColour, 1.0f)));
+}
+
+void MXListboxItem::setSelectionColour(const ColourRect& colours)
+{
+    d_selectionColour = colours;
+    invalidate();
+}
+
+ColourRect MXListboxItem::getSelectionColour() const
+{
+    return d_selectionColour.value_or(ColourRect(Colour(0xFFFFFFFF)));
+}
+
+void MXListboxItem::setSelectionBrush(const Image* image)
+{
+    d_selectionBrush = image;
+    invalidate();
+}
+
+const Image* MXListboxItem::getSelectionBrush() const
+{
+    return d_selectionBrush ? d_selectionBrush : &lookImage(ListDrawing::SelectionBrushImageName);
 }
 
 Sizef MXListboxItem::itemPixelSize() const
@@ -141,19 +208,20 @@ void MXListboxItem::drawItem()
     // The brushes span the list's width, however narrow the text.
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const bool selected = isSelectable() && isSelected();
-    if (selected || d_hovered)
-        lookImage(selected ? ListDrawing::SelectionBrushImageName
-                           : ListDrawing::HoverBrushImageName)
+    if (selected)
+        getSelectionBrush()->render(buffer, area, nullptr, faded(getSelectionColour(), alpha));
+    else if (d_hovered)
+        lookImage(ListDrawing::HoverBrushImageName)
             .render(buffer, area, nullptr, withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     const Font* font = getFont();
     if (!font)
         return;
-    const Colour& colour = isEffectiveDisabled() ? DisabledTextColour
-                           : selected            ? SelectedTextColour
-                                                 : TextColour;
+    const ColourRect colours = isEffectiveDisabled()
+                                   ? ColourRect(withAlpha(DisabledTextColour, alpha))
+                               : selected ? faded(getSelectedTextColour(), alpha)
+                                          : faded(getTextColour(), alpha);
     const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-    font->drawText(buffer, getTextVisual(), Vector2f(HorzPadding, top), nullptr,
-                   ColourRect(withAlpha(colour, alpha)));
+    font->drawText(buffer, getTextVisual(), Vector2f(HorzPadding, top), nullptr, colours);
 }
 
 void MXListboxItem::onMouseEnters(MouseEventArgs& e)

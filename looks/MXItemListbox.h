@@ -12,6 +12,7 @@
 #include <CEGUI/widgets/ItemEntry.h>
 #include <CEGUI/widgets/ItemListbox.h>
 #include <array>
+#include <optional>
 
 namespace CEGUI
 {
@@ -62,6 +63,17 @@ public:
     Sizef itemPixelSize() const override;
     void drawItem() override;
 
+    //! The stock skins' "TextColour", "SelectedTextColour", "SelectionColour" (tints the
+    //! brush) and "SelectionBrush"; until set, the look's own.
+    void setTextColour(const ColourRect& colours);
+    ColourRect getTextColour() const;
+    void setSelectedTextColour(const ColourRect& colours);
+    ColourRect getSelectedTextColour() const;
+    void setSelectionColour(const ColourRect& colours);
+    ColourRect getSelectionColour() const;
+    void setSelectionBrush(const Image* image);
+    const Image* getSelectionBrush() const;
+
 protected:
     void onMouseEnters(MouseEventArgs& e) override;
     void onMouseLeaves(MouseEventArgs& e) override;
@@ -71,6 +83,10 @@ protected:
 private:
     void sizeChanged();
     bool d_hovered = false;
+    std::optional<ColourRect> d_textColour;
+    std::optional<ColourRect> d_selectedTextColour;
+    std::optional<ColourRect> d_selectionColour;
+    const Image* d_selectionBrush = nullptr;
 };
 
 using MXItemListboxFactory = LookFactory<MXItemListbox>;

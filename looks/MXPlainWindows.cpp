@@ -218,6 +218,17 @@ MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(
                           "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXGroupBox::setNormalTextColour, &MXGroupBox::getNormalTextColour,
                           ColourRect(DefaultCaptionColour));
+    CEGUI_DEFINE_PROPERTY(MXGroupBox, ColourRect, "DisabledTextColour",
+                          "Property to get/set the caption's colours while disabled. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXGroupBox::setDisabledTextColour, &MXGroupBox::getDisabledTextColour,
+                          ColourRect(MXLabel::DefaultDisabledTextColour));
+}
+
+void MXGroupBox::setDisabledTextColour(const ColourRect& colours)
+{
+    d_disabledCaptionColour = colours;
+    invalidate();
 }
 
 void MXGroupBox::setNormalTextColour(const ColourRect& colours)
@@ -270,7 +281,7 @@ void MXGroupBox::populateGeometryBuffer()
                      caption.right() - CaptionPadding, caption.bottom());
     if (!isFrameEnabled())
         return drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred,
-                              d_captionColour);
+                              captionColours());
     // The frame's top edge breaks where the caption stands, whatever lies behind the box.
     const Rectf area = frameArea();
     if (isBackgroundEnabled())
@@ -284,7 +295,7 @@ void MXGroupBox::populateGeometryBuffer()
                               Rectf(caption.right(), 0, size.d_width, size.d_height),
                               Rectf(caption.left(), edgeBottom, caption.right(), size.d_height)})
         d_frame.draw(buffer, area.d_min, &clip);
-    drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred, d_captionColour);
+    drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred, captionColours());
 }
 
 // --- The tab control's panes ----------------------------------------------------------------

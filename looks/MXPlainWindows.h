@@ -113,6 +113,8 @@ public:
 
     void setNormalTextColour(const ColourRect& colours);
     const ColourRect& getNormalTextColour() const { return d_captionColour; }
+    void setDisabledTextColour(const ColourRect& colours);
+    const ColourRect& getDisabledTextColour() const { return d_disabledCaptionColour; }
 
 protected:
     void populateGeometryBuffer() override;
@@ -120,7 +122,13 @@ protected:
     void onFontChanged(WindowEventArgs& e) override;
 
 private:
+    const ColourRect& captionColours() const
+    {
+        return isEffectiveDisabled() ? d_disabledCaptionColour : d_captionColour;
+    }
+
     ColourRect d_captionColour{DefaultCaptionColour};
+    ColourRect d_disabledCaptionColour{MXLabel::DefaultDisabledTextColour};
 };
 
 class MXTabContentPane : public RedrawnWhenUncovered<DefaultWindow>

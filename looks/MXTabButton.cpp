@@ -67,6 +67,16 @@ MXTabButton::MXTabButton(const String& type, const String& name)
                           "Value is \"aarrggbb\".",
                           &MXTabButton::setPushedTextColour, &MXTabButton::getPushedTextColour,
                           Colour(EnabledTextLabelColour));
+    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "HoverTextColour",
+                          "Property to get/set the label's colour under the pointer. Value is "
+                          "\"aarrggbb\".",
+                          &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
+                          Colour(EnabledTextLabelColour));
+    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "SelectedTextColour",
+                          "Property to get/set the selected tab's label colour. Value is "
+                          "\"aarrggbb\".",
+                          &MXTabButton::setSelectedTextColour, &MXTabButton::getSelectedTextColour,
+                          Colour(EnabledTextLabelColour));
     CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "DisabledTextColour",
                           "Property to get/set the label colour of a disabled tab. Value is "
                           "\"aarrggbb\".",
@@ -83,6 +93,18 @@ void MXTabButton::setNormalTextColour(const Colour& colour)
 void MXTabButton::setPushedTextColour(const Colour& colour)
 {
     d_pushedTextColour = colour;
+    invalidate();
+}
+
+void MXTabButton::setHoverTextColour(const Colour& colour)
+{
+    d_hoverTextColour = colour;
+    invalidate();
+}
+
+void MXTabButton::setSelectedTextColour(const Colour& colour)
+{
+    d_selectedTextColour = colour;
     invalidate();
 }
 
@@ -163,7 +185,8 @@ void MXTabButton::drawAtRest(const Colour& textColour)
 
 void MXTabButton::drawPushed()
 {
-    drawSelectedSet(0, withAlpha(ColourRect(SelectedMiddleColour), getEffectiveAlpha()));
+    drawSelectedSet(0, withAlpha(ColourRect(SelectedMiddleColour), getEffectiveAlpha()),
+                    isSelected() && !isPushed() ? getSelectedTextColour() : d_pushedTextColour);
 }
 
 void MXTabButton::drawHover()
@@ -173,10 +196,11 @@ void MXTabButton::drawHover()
         drawPushed();
         return;
     }
-    drawSelectedSet(NormalShift, verticalGradient(HoverGradientFootColour, getEffectiveAlpha()));
+    drawSelectedSet(NormalShift, verticalGradient(HoverGradientFootColour, getEffectiveAlpha()),
+                    getHoverTextColour());
 }
 
-void MXTabButton::drawSelectedSet(float shift, const ColourRect& middle)
+void MXTabButton::drawSelectedSet(float shift, const ColourRect& middle, const Colour& textColour)
 {
     GeometryBuffer& buffer = getGeometryBuffer();
     const Sizef area = getPixelSize();
@@ -202,7 +226,7 @@ void MXTabButton::drawSelectedSet(float shift, const ColourRect& middle)
         Sizef(sizeOf(d_rightSelected).d_width, sideHeight), white);
 
     if (const Font* font = getFont())
-        drawLabel((area.d_height - font->getLineSpacing()) * 0.5f, d_pushedTextColour);
+        drawLabel((area.d_height - font->getLineSpacing()) * 0.5f, textColour);
 }
 
 void MXTabButton::drawLabel(float top, const Colour& colour)

@@ -9,6 +9,7 @@
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/TabButton.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -54,6 +55,15 @@ public:
     void setNormalTextColour(const Colour& colour);
     void setPushedTextColour(const Colour& colour);
     void setDisabledTextColour(const Colour& colour);
+    //! The stock skins' label colours under the pointer and on the selected tab; until set,
+    //! the pushed colour.
+    Colour getHoverTextColour() const { return d_hoverTextColour.value_or(d_pushedTextColour); }
+    void setHoverTextColour(const Colour& colour);
+    Colour getSelectedTextColour() const
+    {
+        return d_selectedTextColour.value_or(d_pushedTextColour);
+    }
+    void setSelectedTextColour(const Colour& colour);
 
 protected:
     //! Under the pointer: hover; pressed or selected: pushed; disabled; else normal.
@@ -67,7 +77,7 @@ protected:
 private:
     void drawAtRest(const Colour& textColour);
     //! The selected set, `shift` pixels lower, its middle in `middle`.
-    void drawSelectedSet(float shift, const ColourRect& middle);
+    void drawSelectedSet(float shift, const ColourRect& middle, const Colour& textColour);
     void drawLabel(float top, const Colour& colour);
 
     const Image* d_leftNormal;
@@ -85,6 +95,8 @@ private:
     const Image* d_upperLeftSelected;
     const Image* d_upperRightSelected;
     const Image* d_upperSelected;
+    std::optional<Colour> d_hoverTextColour;
+    std::optional<Colour> d_selectedTextColour;
     Colour d_normalTextColour{EnabledTextLabelColour};
     Colour d_pushedTextColour{EnabledTextLabelColour};
     Colour d_disabledTextColour{DisabledTextLabelColour};

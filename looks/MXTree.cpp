@@ -6,6 +6,7 @@
 #include "looks/MXListbox.h"
 
 #include <CEGUI/Image.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/falagard/WidgetLookManager.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/TreeItem.h>
@@ -54,6 +55,18 @@ MXTree::MXTree(const String& type, const String& name) : RedrawnWhenUncovered<Tr
                        "StaticFrameListBottomLeft", "StaticFrameListBottomRight",
                        "StaticFrameListLeft", "StaticFrameListTop", "StaticFrameListRight",
                        "StaticFrameListBottom"});
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXTree, ColourRect, "FrameColours",
+                          "Property to get/set the frame's colours. Value is \"aarrggbb\" or "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXTree::setFrameColours, &MXTree::getFrameColours,
+                          ColourRect(Colour(0xFFFFFFFF)));
+}
+
+void MXTree::setFrameColours(const ColourRect& colours)
+{
+    d_frameColours = colours;
+    invalidate();
 }
 
 void MXTree::initialiseComponents()
@@ -130,7 +143,7 @@ void MXTree::cacheTreeBaseImagery()
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
     lookImage(FillImageName).render(buffer, d_frame.innerRect(area), nullptr, white);
     d_frame.setSize(area.getSize());
-    d_frame.setColours(white);
+    d_frame.setColours(faded(d_frameColours, getEffectiveAlpha()));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }
 

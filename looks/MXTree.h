@@ -42,6 +42,10 @@ public:
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;
 
+    //! The stock skins' "FrameColours": tints the frame.
+    void setFrameColours(const ColourRect& colours);
+    const ColourRect& getFrameColours() const { return d_frameColours; }
+
 protected:
     //! Window-local: inside the frame, clear of the bars shown.
     Rectf getTreeRenderArea() const override;
@@ -59,6 +63,7 @@ private:
     //! The bars' shown and hidden events, let go with the look.
     std::array<Event::ScopedConnection, 4> d_barWatches;
     NinePieceFrame d_frame;
+    ColourRect d_frameColours{Colour(0xFFFFFFFF)};
 };
 
 using MXTreeFactory = LookFactory<MXTree>;

@@ -23,6 +23,7 @@
 #include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/TabButton.h>
 #include <CEGUI/widgets/TabControl.h>
 #include <CEGUI/widgets/Thumb.h>
 #include <CEGUI/widgets/Titlebar.h>
@@ -607,4 +608,54 @@ TEST_F(StockSkinTypesTest, SwitchedOffBarsAndFramesLeaveAndChildrenFollowTheInne
     frame.setProperty("FrameEnabled", "False");
     EXPECT_EQ(child->getPixelSize().d_width, 120);
     EXPECT_LT(framed, 120);
+}
+
+TEST_F(StockSkinTypesTest, ItemTabTreeAndGroupColoursFromStockLayoutsReachTheDrawing)
+{
+    // A list item: its own text colours and a tinted, replaced selection brush.
+    auto& list =
+        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 10, 10, 200, 110));
+    auto* item = static_cast<ItemEntry*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem"));
+    item->setText("Pear");
+    list.addItem(item);
+    item->setProperty("TextColour", "FF112233");
+    EXPECT_EQ(item->getProperty("TextColour"), "tl:FF112233 tr:FF112233 bl:FF112233 br:FF112233");
+    EXPECT_EQ(argb(find(drawnBy(*item), "text")->colours.d_top_left), 0xFF112233u);
+    item->setProperty("SelectedTextColour", "FF445566");
+    item->setProperty("SelectionColour", "tl:FF800000 tr:FF800000 bl:FF000080 br:FF000080");
+    item->setProperty("SelectionBrush", "MoxieLook/ListboxHoverBrush");
+    item->setSelected(true);
+    auto quads = drawnBy(*item);
+    ASSERT_FALSE(quads.empty());
+    EXPECT_EQ(quads.front().image, "ListboxHoverBrush");
+    EXPECT_EQ(argb(quads.front().colours.d_bottom_left), 0xFF000080u);
+    EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFF445566u);
+    // An unknown image is logged by CEGUI and leaves no image: the look's own brush is back.
+    item->setProperty("SelectionBrush", "MoxieLook/NoSuchImage");
+    EXPECT_EQ(drawnBy(*item).front().image, "ListboxSelectionBrush");
+
+    // A tab: the selected and the hovered label each take their own colour.
+    Window& tab = moxietest::place("MoxieLook/TabButton", 10, 150, 90, 26);
+    tab.setText("Audio");
+    tab.setProperty("SelectedTextColour", "FF00A000");
+    tab.setProperty("HoverTextColour", "FFA00000");
+    EXPECT_EQ(tab.getProperty("HoverTextColour"), "FFA00000");
+    static_cast<TabButton&>(tab).setSelected(true);
+    EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFF00A000u);
+    static_cast<TabButton&>(tab).setSelected(false);
+    const Vector2f over = moxietest::centreOf(tab);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFFA00000u);
+
+    // A tree's frame tint; a disabled group box's caption.
+    Window& tree = moxietest::place("MoxieLook/Tree", 300, 10, 200, 100);
+    tree.setProperty("FrameColours", "FF406080");
+    EXPECT_EQ(argb(find(drawnBy(tree), "StaticFrameListTopLeft")->colours.d_top_left), 0xFF406080u);
+    Window& box = moxietest::place("MoxieLook/GroupBox", 300, 150, 200, 100);
+    box.setText("Sound");
+    box.setProperty("DisabledTextColour", "FF777766");
+    EXPECT_NE(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
+    box.disable();
+    EXPECT_EQ(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
 }
