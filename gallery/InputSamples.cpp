@@ -168,7 +168,7 @@ std::vector<Sample> inputSamples()
              list.AddItem("b", "Bananas", "Yellow ones", "MoxieLook", "IconStar");
              list.AddItem("c", "Cherries", "", "", "");
          }},
-        {"MoxieLook/ProgressBar", 60,
+        {"MoxieLook/ProgressBar", 130,
          [](Card& card)
          {
              const float values[] = {0.0f, 0.6f, 1.0f};
@@ -177,6 +177,16 @@ std::vector<Sample> inputSamples()
                  static_cast<ProgressBar&>(
                      card.add("MoxieLook/ProgressBar", captions[i], 10 + i * 200.0f, 10, 180, 18))
                      .setProgress(values[i]);
+             Window& reversed = card.add("MoxieLook/ProgressBar", "0.6 reversed", 10, 60, 180, 18);
+             reversed.setProperty("ReversedProgress", "True");
+             Window& tinted =
+                 card.add("MoxieLook/ProgressBar", "disabled, tinted", 210, 60, 180, 18);
+             tinted.setProperty("DisabledColour", "FF9AA3AD");
+             tinted.disable();
+             Window& upright = card.add("MoxieLook/ProgressBar", "0.6 upright", 410, 50, 18, 60);
+             upright.setProperty("VerticalProgress", "True");
+             for (Window* bar : {&reversed, &tinted, &upright})
+                 static_cast<ProgressBar*>(bar)->setProgress(0.6f);
          }},
     };
 }

@@ -5,6 +5,7 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/GlobalEventSet.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/TplWindowProperty.h>
 #include <CEGUI/widgets/ItemListBase.h>
 #include <algorithm>
 #include <cmath>
@@ -24,7 +25,8 @@ ColourRect white(const Window& window)
 }
 
 // The band under an item that is hovered, held or open.
-void drawBand(const Window& window, MenuItemState state, const Rectf& area)
+void drawBand(const MenuItem& item, const MenuItemTints& tints, MenuItemState state,
+              const Rectf& area)
 {
     if (state != MenuItemState::Hover && state != MenuItemState::Pushed &&
         state != MenuItemState::Open)
@@ -36,7 +38,47 @@ void drawBand(const Window& window, MenuItemState state, const Rectf& area)
                                        : ThreePieceBar::named(MenuImagery::HoverLeftImageName,
                                                               MenuImagery::HoverMiddleImageName,
                                                               MenuImagery::HoverRightImageName);
-    band.draw(const_cast<Window&>(window).getGeometryBuffer(), area, white(window));
+    band.draw(const_cast<MenuItem&>(item).getGeometryBuffer(), area,
+              tints.bandColours(item, state));
+}
+
+template <typename Owner>
+void addMenuItemTintProperties(Owner& owner)
+{
+    static const char* const origin = "MoxieLook/MenuItemTints";
+    using Tint = TplWindowProperty<Owner, ColourRect>;
+    static const char* const help = " Value is \"aarrggbb\" or "
+                                    "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static Tint hover("HoverColour",
+                      String("Property to get/set the band's colours under the "
+                             "pointer.") +
+                          help,
+                      origin, &Owner::setHoverColour, &Owner::getHoverColour,
+                      ColourRect(Colour(0xFFFFFFFF)));
+    static Tint pushed(
+        "PushedColour", String("Property to get/set the band's colours while held.") + help, origin,
+        &Owner::setPushedColour, &Owner::getPushedColour, ColourRect(Colour(0xFFFFFFFF)));
+    static Tint pushedOff("PushedOffColour",
+                          String("Property to get/set the band's colours while held with the "
+                                 "pointer off the item.") +
+                              help,
+                          origin, &Owner::setPushedOffColour, &Owner::getPushedOffColour,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    static Tint opened(
+        "OpenedColour",
+        String("Property to get/set the band's colours while its menu is open.") + help, origin,
+        &Owner::setOpenedColour, &Owner::getOpenedColour, ColourRect(Colour(0xFFFFFFFF)));
+    static Tint normalText("NormalTextColour",
+                           String("Property to get/set the text's colours.") + help, origin,
+                           &Owner::setNormalTextColour, &Owner::getNormalTextColour,
+                           ColourRect(withAlpha(MenuImagery::TextColour, 1.0f)));
+    static Tint disabledText("DisabledTextColour",
+                             String("Property to get/set the text's colours while disabled.") +
+                                 help,
+                             origin, &Owner::setDisabledTextColour, &Owner::getDisabledTextColour,
+                             ColourRect(withAlpha(MenuImagery::DisabledTextColour, 1.0f)));
+    for (Property* property : {&hover, &pushed, &pushedOff, &opened, &normalText, &disabledText})
+        owner.addProperty(property);
 }
 
 // Activation alone misses a click on the bare root sheet: CEGUI 0.8 moves an already active
@@ -93,20 +135,94 @@ MenuItemState menuItemStateOf(const MenuItem& item)
     return item.isHovering() ? MenuItemState::Hover : MenuItemState::Normal;
 }
 
+template <typename Owner>
+void addMenuListStyleProperties(Owner& owner)
+{
+    static TplWindowProperty<Owner, ColourRect> background(
+        "BackgroundColours",
+        "Property to get/set the colours of the list's imagery. Value is \"aarrggbb\" or "
+        "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+        "MoxieLook/MenuListStyle", &Owner::setBackgroundColours, &Owner::getBackgroundColours,
+        ColourRect(Colour(0xFFFFFFFF)));
+    static TplWindowProperty<Owner, uint> border(
+        "BorderWidth",
+        "Property to get/set the pixels between the frame and the items. Value is an unsigned "
+        "integer.",
+        "MoxieLook/MenuListStyle", &Owner::setBorderWidth, &Owner::getBorderWidth, 0);
+    owner.addProperty(&background);
+    owner.addProperty(&border);
+}
+
+void MenuListStyle::setBackgroundColours(const ColourRect& colours)
+{
+    d_background = colours;
+    d_list.invalidate();
+}
+
+void MenuListStyle::setBorderWidth(uint width)
+{
+    d_borderWidth = width;
+    d_list.handleUpdatedItemData();
+    d_list.invalidate();
+}
+
+uint MenuListStyle::getBorderWidth() const
+{
+    return d_borderWidth.value_or(static_cast<uint>(d_ownSpacing));
+}
+
+Rectf MenuListStyle::spacing() const
+{
+    if (!d_borderWidth)
+        return ownSpacing();
+    const float width = static_cast<float>(*d_borderWidth);
+    return Rectf(width, width, width, width);
+}
+
+MenuItemTints::MenuItemTints(Window& item)
+    : d_item(item), d_normalText(withAlpha(MenuImagery::TextColour, 1.0f)),
+      d_disabledText(withAlpha(MenuImagery::DisabledTextColour, 1.0f))
+{
+}
+
+void MenuItemTints::set(ColourRect& slot, const ColourRect& colours)
+{
+    slot = colours;
+    d_item.invalidate();
+}
+
+ColourRect MenuItemTints::bandColours(const MenuItem& item, MenuItemState state) const
+{
+    const ColourRect& colours = state == MenuItemState::Open     ? d_opened
+                                : state == MenuItemState::Pushed ? d_pushed
+                                : item.isPushed()                ? d_pushedOff
+                                                                 : d_hover;
+    return faded(colours, item.getEffectiveAlpha());
+}
+
+ColourRect MenuItemTints::textColours(const MenuItem& item, MenuItemState state) const
+{
+    return faded(state == MenuItemState::Disabled ? d_disabledText : d_normalText,
+                 item.getEffectiveAlpha());
+}
+
 // --- the bar ----------------------------------------------------------------------------
 
 MXMenubar::MXMenubar(const String& type, const String& name)
-    : RedrawnWhenUncovered<Menubar>(type, name)
+    : RedrawnWhenUncovered<Menubar>(type, name), MenuListStyle(*this, Padding)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
+    addMenuListStyleProperties(*this);
     d_pressOutside = onPressOutside(*this, d_destroyed, closeBarMenus);
 }
 
 Rectf MXMenubar::itemRenderArea() const
 {
     const Sizef own = getPixelSize();
-    return Rectf(Padding, 0, std::max(Padding, own.d_width - Padding), own.d_height);
+    const Rectf space = spacing();
+    return Rectf(space.left(), space.top(), std::max(space.left(), own.d_width - space.right()),
+                 std::max(space.top(), own.d_height - space.bottom()));
 }
 
 void MXMenubar::drawList()
@@ -114,7 +230,8 @@ void MXMenubar::drawList()
     if (!hasVisibleArea(*this))
         return;
     lookImage(BarImageName)
-        .render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr, white(*this));
+        .render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
+                faded(getBackgroundColours(), getEffectiveAlpha()));
 }
 
 void MXMenubar::destroy()
@@ -133,8 +250,9 @@ void MXMenubar::onDeactivated(ActivationEventArgs& e)
 // --- the pop-up -------------------------------------------------------------------------
 
 MXPopupMenu::MXPopupMenu(const String& type, const String& name)
-    : RedrawnWhenUncovered<PopupMenu>(type, name)
+    : RedrawnWhenUncovered<PopupMenu>(type, name), MenuListStyle(*this, Padding)
 {
+    addMenuListStyleProperties(*this);
     const String prefix(PopupFramePrefix);
     const String names[8] = {prefix + "TopLeft",     prefix + "TopRight", prefix + "BottomLeft",
                              prefix + "BottomRight", prefix + "Left",     prefix + "Top",
@@ -156,10 +274,11 @@ Rectf MXPopupMenu::itemRenderArea() const
     const Rectf box(0, 0, std::max(0.0f, own.d_width - ShadowOffset),
                     std::max(0.0f, own.d_height - ShadowOffset));
     Rectf area = d_frame.innerRect(box);
-    area.d_min.d_x += Padding;
-    area.d_min.d_y += Padding;
-    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x - Padding);
-    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y - Padding);
+    const Rectf space = spacing();
+    area.d_min.d_x += space.left();
+    area.d_min.d_y += space.top();
+    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x - space.right());
+    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y - space.bottom());
     return area;
 }
 
@@ -174,9 +293,10 @@ void MXPopupMenu::drawList()
     lookImage(ShadowImageName)
         .render(buffer, Rectf(Vector2f(ShadowOffset, ShadowOffset), box), nullptr, white(*this));
     const Rectf boxRect(Vector2f(0, 0), box);
-    lookImage(PopupFillImageName).render(buffer, d_frame.innerRect(boxRect), nullptr, white(*this));
+    const ColourRect colours = faded(getBackgroundColours(), getEffectiveAlpha());
+    lookImage(PopupFillImageName).render(buffer, d_frame.innerRect(boxRect), nullptr, colours);
     d_frame.setSize(box);
-    d_frame.setColours(white(*this));
+    d_frame.setColours(colours);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }
 
@@ -195,10 +315,11 @@ void MXPopupMenu::onDeactivated(ActivationEventArgs& e)
 // --- bar items --------------------------------------------------------------------------
 
 MXMenubarItem::MXMenubarItem(const String& type, const String& name)
-    : RedrawnWhenUncovered<MenuItem>(type, name)
+    : RedrawnWhenUncovered<MenuItem>(type, name), MenuItemTints(static_cast<Window&>(*this))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXMenuItemRenderer::TypeName);
+    addMenuItemTintProperties(*this);
 }
 
 Sizef MXMenubarItem::barItemSize(const MenuItem& item)
@@ -210,19 +331,18 @@ Sizef MXMenubarItem::barItemSize(const MenuItem& item)
                  std::ceil(font->getLineSpacing()) + 2 * VertPadding);
 }
 
-void MXMenubarItem::drawBarItem(MenuItem& item)
+void MXMenubarItem::drawBarItem(MenuItem& item, const MenuItemTints& tints)
 {
     if (!hasVisibleArea(item))
         return;
     const MenuItemState state = menuItemStateOf(item);
     const Rectf area(Vector2f(0, 0), item.getPixelSize());
-    drawBand(item, state, area);
+    drawBand(item, tints, state, area);
     if (const Font* font = item.getFont())
     {
         const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
         font->drawText(item.getGeometryBuffer(), item.getTextVisual(), Vector2f(HorzPadding, top),
-                       nullptr, ColourRect(withAlpha(colour, item.getEffectiveAlpha())));
+                       nullptr, tints.textColours(item, state));
     }
 }
 
@@ -233,7 +353,7 @@ Sizef MXMenubarItem::itemPixelSize() const
 
 void MXMenubarItem::drawItem()
 {
-    drawBarItem(*this);
+    drawBarItem(*this, *this);
 }
 
 void MXMenubarItem::onFontChanged(WindowEventArgs& e)
@@ -245,11 +365,12 @@ void MXMenubarItem::onFontChanged(WindowEventArgs& e)
 // --- pop-up items -----------------------------------------------------------------------
 
 MXPopupMenuItem::MXPopupMenuItem(const String& type, const String& name)
-    : RedrawnWhenUncovered<MenuItem>(type, name)
+    : RedrawnWhenUncovered<MenuItem>(type, name), MenuItemTints(static_cast<Window&>(*this))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setAutoPopupTimeout(SubMenuDelay);
     setWindowRenderer(MXMenuItemRenderer::TypeName);
+    addMenuItemTintProperties(*this);
 }
 
 Sizef MXPopupMenuItem::itemPixelSize() const
@@ -283,7 +404,7 @@ void MXPopupMenuItem::drawItem()
         return;
     }
     const MenuItemState state = menuItemStateOf(*this);
-    drawBand(*this, state, area);
+    drawBand(*this, *this, state, area);
     const float alpha = state == MenuItemState::Disabled ? 0.5f : 1.0f;
     auto centred = [&](const Image& image, float left, float width)
     {
@@ -306,9 +427,8 @@ void MXPopupMenuItem::drawItem()
     if (const Font* font = getFont())
     {
         const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-        const Colour& colour = state == MenuItemState::Disabled ? DisabledTextColour : TextColour;
         font->drawText(buffer, getTextVisual(), Vector2f(CheckColumn, top), nullptr,
-                       ColourRect(withAlpha(colour, getEffectiveAlpha())));
+                       textColours(*this, state));
     }
 }
 
@@ -333,7 +453,7 @@ Sizef MXMenuItem::itemPixelSize() const
 void MXMenuItem::drawItem()
 {
     if (isOnBar())
-        MXMenubarItem::drawBarItem(*this);
+        MXMenubarItem::drawBarItem(*this, *this);
     else
         MXPopupMenuItem::drawItem();
 }

@@ -21,6 +21,7 @@
 #include <CEGUI/widgets/MenuItem.h>
 #include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/PopupMenu.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -67,7 +68,40 @@ struct MenuImagery
     static constexpr float ShadowOffset = 3.0f;
 };
 
-class MXMenubar : public RedrawnWhenUncovered<Menubar>, public ItemListLook, public MenuImagery
+//! The stock skins' "BackgroundColours" (tints the list's own imagery, not its shadow) and
+//! "BorderWidth" (pixels between the frame and the items on every side; until set, the
+//! look's own spacing).
+class MenuListStyle
+{
+public:
+    MenuListStyle(ItemListBase& list, float ownSpacing) : d_list(list), d_ownSpacing(ownSpacing) {}
+
+    void setBackgroundColours(const ColourRect& colours);
+    const ColourRect& getBackgroundColours() const { return d_background; }
+    void setBorderWidth(uint width);
+    uint getBorderWidth() const;
+    //! The spacing on each side: left, top, right, bottom.
+    Rectf spacing() const;
+
+private:
+    ItemListBase& d_list;
+    float d_ownSpacing;
+    ColourRect d_background{Colour(0xFFFFFFFF)};
+    std::optional<uint> d_borderWidth;
+
+protected:
+    //! The look's own spacing on the sides it keeps it, before "BorderWidth" is set.
+    virtual Rectf ownSpacing() const
+    {
+        return Rectf(d_ownSpacing, d_ownSpacing, d_ownSpacing, d_ownSpacing);
+    }
+    ~MenuListStyle() = default;
+};
+
+class MXMenubar : public RedrawnWhenUncovered<Menubar>,
+                  public ItemListLook,
+                  public MenuImagery,
+                  public MenuListStyle
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/Menubar";
@@ -81,13 +115,18 @@ public:
 protected:
     //! A click elsewhere closes the open menu.
     void onDeactivated(ActivationEventArgs& e) override;
+    //! Only the bar's ends keep their distance: its items reach its top and bottom.
+    Rectf ownSpacing() const override { return Rectf(Padding, 0, Padding, 0); }
 
 private:
     bool d_destroyed = false;
     Event::ScopedConnection d_pressOutside;
 };
 
-class MXPopupMenu : public RedrawnWhenUncovered<PopupMenu>, public ItemListLook, public MenuImagery
+class MXPopupMenu : public RedrawnWhenUncovered<PopupMenu>,
+                    public ItemListLook,
+                    public MenuImagery,
+                    public MenuListStyle
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/PopupMenu";
@@ -119,7 +158,48 @@ enum class MenuItemState
 };
 MenuItemState menuItemStateOf(const MenuItem& item);
 
-class MXMenubarItem : public RedrawnWhenUncovered<MenuItem>, public MenuItemLook, public MenuImagery
+//! The stock skins' tints of a menu item: its band while hovered, held, held with the
+//! pointer off it, or open ("HoverColour", "PushedColour", "PushedOffColour",
+//! "OpenedColour"), and its text ("NormalTextColour", "DisabledTextColour").
+class MenuItemTints
+{
+public:
+    explicit MenuItemTints(Window& item);
+
+    void setHoverColour(const ColourRect& colours) { set(d_hover, colours); }
+    const ColourRect& getHoverColour() const { return d_hover; }
+    void setPushedColour(const ColourRect& colours) { set(d_pushed, colours); }
+    const ColourRect& getPushedColour() const { return d_pushed; }
+    void setPushedOffColour(const ColourRect& colours) { set(d_pushedOff, colours); }
+    const ColourRect& getPushedOffColour() const { return d_pushedOff; }
+    void setOpenedColour(const ColourRect& colours) { set(d_opened, colours); }
+    const ColourRect& getOpenedColour() const { return d_opened; }
+    void setNormalTextColour(const ColourRect& colours) { set(d_normalText, colours); }
+    const ColourRect& getNormalTextColour() const { return d_normalText; }
+    void setDisabledTextColour(const ColourRect& colours) { set(d_disabledText, colours); }
+    const ColourRect& getDisabledTextColour() const { return d_disabledText; }
+
+    //! The band's tint for `item` in `state`, faded by the item's alpha.
+    ColourRect bandColours(const MenuItem& item, MenuItemState state) const;
+    //! The text's tint in `state`, faded by the item's alpha.
+    ColourRect textColours(const MenuItem& item, MenuItemState state) const;
+
+private:
+    void set(ColourRect& slot, const ColourRect& colours);
+
+    Window& d_item;
+    ColourRect d_hover{Colour(0xFFFFFFFF)};
+    ColourRect d_pushed{Colour(0xFFFFFFFF)};
+    ColourRect d_pushedOff{Colour(0xFFFFFFFF)};
+    ColourRect d_opened{Colour(0xFFFFFFFF)};
+    ColourRect d_normalText;
+    ColourRect d_disabledText;
+};
+
+class MXMenubarItem : public RedrawnWhenUncovered<MenuItem>,
+                      public MenuItemLook,
+                      public MenuImagery,
+                      public MenuItemTints
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/MenubarItem";
@@ -132,7 +212,7 @@ public:
 
     //! How any menu item measures and draws on a bar.
     static Sizef barItemSize(const MenuItem& item);
-    static void drawBarItem(MenuItem& item);
+    static void drawBarItem(MenuItem& item, const MenuItemTints& tints);
 
 protected:
     void onFontChanged(WindowEventArgs& e) override;
@@ -140,7 +220,8 @@ protected:
 
 class MXPopupMenuItem : public RedrawnWhenUncovered<MenuItem>,
                         public MenuItemLook,
-                        public MenuImagery
+                        public MenuImagery,
+                        public MenuItemTints
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/PopupMenuItem";

@@ -20,14 +20,76 @@ MXProgressBar::MXProgressBar(const String& type, const String& name)
       d_lit(ThreePieceBar::named(LitLeftImageName, LitMiddleImageName, LitRightImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXProgressBar, ColourRect, "EnabledColour",
+                          "Property to get/set the fill's colours. Value is \"aarrggbb\" or "
+                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXProgressBar::setEnabledColour, &MXProgressBar::getEnabledColour,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXProgressBar, ColourRect, "DisabledColour",
+                          "Property to get/set the fill's colours while disabled. Value is "
+                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          &MXProgressBar::setDisabledColour, &MXProgressBar::getDisabledColour,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXProgressBar, bool, "VerticalProgress",
+                          "Property to get/set whether the bar fills upwards. Value is either "
+                          "\"True\" or \"False\".",
+                          &MXProgressBar::setVerticalProgress, &MXProgressBar::isVerticalProgress,
+                          false);
+    CEGUI_DEFINE_PROPERTY(MXProgressBar, bool, "ReversedProgress",
+                          "Property to get/set whether the bar fills from the other end. Value "
+                          "is either \"True\" or \"False\".",
+                          &MXProgressBar::setReversedProgress, &MXProgressBar::isReversedProgress,
+                          false);
+}
+
+Rectf progressFill(const Rectf& area, float progress, bool vertical, bool reversed)
+{
+    const float span = vertical ? area.getHeight() : area.getWidth();
+    const float length =
+        std::isnan(progress) ? 0.0f : std::round(span * std::clamp(progress, 0.0f, 1.0f));
+    // Upwards is from the bottom: reversed, an upright bar fills from the top.
+    if (vertical)
+        return reversed ? Rectf(area.left(), area.top(), area.right(), area.top() + length)
+                        : Rectf(area.left(), area.bottom() - length, area.right(), area.bottom());
+    return reversed ? Rectf(area.right() - length, area.top(), area.right(), area.bottom())
+                    : Rectf(area.left(), area.top(), area.left() + length, area.bottom());
+}
+
+Rectf MXProgressBar::litArea() const
+{
+    return progressFill(Rectf(Vector2f(0, 0), getPixelSize()), getProgress(), d_vertical,
+                        d_reversed);
+}
+
+void MXProgressBar::setVerticalProgress(bool vertical)
+{
+    d_vertical = vertical;
+    invalidate();
+}
+
+void MXProgressBar::setReversedProgress(bool reversed)
+{
+    d_reversed = reversed;
+    invalidate();
+}
+
+void MXProgressBar::setEnabledColour(const ColourRect& colours)
+{
+    d_enabledColours = colours;
+    invalidate();
+}
+
+void MXProgressBar::setDisabledColour(const ColourRect& colours)
+{
+    d_disabledColours = colours;
+    invalidate();
 }
 
 float MXProgressBar::litWidth() const
 {
-    const float progress = getProgress();
-    if (std::isnan(progress))
-        return 0.0f;
-    return std::round(getPixelSize().d_width * std::clamp(progress, 0.0f, 1.0f));
+    const Rectf lit = litArea();
+    return d_vertical ? lit.getHeight() : lit.getWidth();
 }
 
 void MXProgressBar::populateGeometryBuffer()
@@ -39,11 +101,12 @@ void MXProgressBar::populateGeometryBuffer()
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
     const Rectf area(Vector2f(0, 0), getPixelSize());
     d_track.draw(buffer, area, white);
-    const float lit = litWidth();
-    if (lit > 0)
+    const Rectf filled = litArea();
+    if (filled.getWidth() > 0 && filled.getHeight() > 0)
     {
-        const Rectf filled(0, 0, lit, area.bottom());
-        d_lit.draw(buffer, area, white, &filled);
+        d_lit.draw(buffer, area,
+                   faded(isEffectiveDisabled() ? d_disabledColours : d_enabledColours, alpha),
+                   &filled);
     }
     if (getFont() && !getText().empty())
         drawText(*this, buffer, getRenderedString(), area, HorzTextFormat::Centred,

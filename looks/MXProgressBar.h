@@ -1,7 +1,9 @@
 // "MoxieLook/ProgressBar": a rounded track ("ProgressBarLeft", "...Middle", "...Right")
 // filled from the left by the lit bar ("ProgressBarLitLeft", "...Middle", "...Right") as
 // far as the progress goes, cut there so that the fill keeps its rounded start. The window
-// text, if any, is centred over both.
+// text, if any, is centred over both. With the stock skins' "ReversedProgress" the fill
+// starts at the right; with "VerticalProgress" it rises from the bottom (from the top,
+// reversed), cut across; "EnabledColour" and "DisabledColour" tint it.
 #pragma once
 
 #include "draw/NinePieceFrame.h"
@@ -32,9 +34,23 @@ public:
 
     MXProgressBar(const String& type, const String& name);
 
-    //! Where the fill ends, window-local: progress x width (0 for a progress that is no
-    //! number).
+    //! How far the fill reaches along the bar: progress x its length (0 for a progress that
+    //! is no number).
     float litWidth() const;
+    //! The filled part, window-local: from the left, or from the bottom when
+    //! "VerticalProgress", from the other end when "ReversedProgress".
+    Rectf litArea() const;
+    void setVerticalProgress(bool vertical);
+    bool isVerticalProgress() const { return d_vertical; }
+    void setReversedProgress(bool reversed);
+    bool isReversedProgress() const { return d_reversed; }
+
+    //! The stock skins' "EnabledColour" and "DisabledColour": the fill's tint while the bar
+    //! is enabled or disabled.
+    void setEnabledColour(const ColourRect& colours);
+    const ColourRect& getEnabledColour() const { return d_enabledColours; }
+    void setDisabledColour(const ColourRect& colours);
+    const ColourRect& getDisabledColour() const { return d_disabledColours; }
 
 protected:
     void populateGeometryBuffer() override;
@@ -43,7 +59,15 @@ protected:
 private:
     ThreePieceBar d_track;
     ThreePieceBar d_lit;
+    ColourRect d_enabledColours{Colour(0xFFFFFFFF)};
+    ColourRect d_disabledColours{Colour(0xFFFFFFFF)};
+    bool d_vertical = false;
+    bool d_reversed = false;
 };
+
+//! The part of `area` a progress fills from its start end (see MXProgressBar::litArea),
+//! whole pixels; empty for a progress that is no number.
+Rectf progressFill(const Rectf& area, float progress, bool vertical, bool reversed);
 
 using MXProgressBarFactory = LookFactory<MXProgressBar>;
 

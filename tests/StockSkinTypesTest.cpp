@@ -659,3 +659,80 @@ TEST_F(StockSkinTypesTest, ItemTabTreeAndGroupColoursFromStockLayoutsReachTheDra
     box.disable();
     EXPECT_EQ(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
 }
+
+TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
+{
+    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 28));
+    auto* file = static_cast<MenuItem*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/MenuItem", "File"));
+    file->setText("File");
+    bar.addItem(file);
+    auto* menu = static_cast<PopupMenu*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu", "FileMenu"));
+    file->addChild(menu);
+    auto* open = static_cast<MenuItem*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/MenuItem", "Open"));
+    open->setText("Open");
+    menu->addItem(open);
+
+    // The border width moves the items off the bar's ends (CEGUI centres them upright).
+    EXPECT_EQ(bar.getProperty("BorderWidth"), "3");
+    EXPECT_EQ(file->getUnclippedOuterRect().get().left(), 3);
+    bar.setProperty("BorderWidth", "5");
+    EXPECT_EQ(file->getUnclippedOuterRect().get().left(), 5);
+    bar.setProperty("BackgroundColours", "FF203040");
+    EXPECT_EQ(argb(find(drawnBy(bar), "MenubarBackground")->colours.d_top_left), 0xFF203040u);
+
+    // Each state's band and the text take their tints.
+    file->setProperty("OpenedColour", "FF00FF00");
+    open->setProperty("HoverColour", "FFFF0000");
+    open->setProperty("NormalTextColour", "FF0000FF");
+    open->setProperty("DisabledTextColour", "FF808000");
+    moxietest::click(moxietest::centreOf(*file).d_x, moxietest::centreOf(*file).d_y);
+    ASSERT_TRUE(file->isOpened());
+    EXPECT_EQ(argb(find(drawnBy(*file), "MenuItemOpenMiddle")->colours.d_top_left), 0xFF00FF00u);
+    const Vector2f over = moxietest::centreOf(*open);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    auto quads = drawnBy(*open);
+    EXPECT_EQ(argb(find(quads, "MenuItemFocusMiddle")->colours.d_top_left), 0xFFFF0000u);
+    EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFF0000FFu);
+    menu->setProperty("BackgroundColours", "FF406080");
+    EXPECT_EQ(argb(find(drawnBy(*menu), "PopupMenuFill")->colours.d_top_left), 0xFF406080u);
+    open->disable();
+    EXPECT_EQ(argb(find(drawnBy(*open), "text")->colours.d_top_left), 0xFF808000u);
+}
+
+TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsToldInItsTint)
+{
+    auto& bar =
+        static_cast<MXProgressBar&>(moxietest::place("MoxieLook/ProgressBar", 10, 10, 200, 40));
+    bar.setProgress(0.6f);
+    auto litSpan = [&bar]
+    {
+        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
+        for (const DrawnQuad& quad : drawnBy(bar))
+            if (quad.image.rfind("ProgressBarLit", 0) == 0)
+            {
+                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
+                span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
+                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
+                span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
+            }
+        return span;
+    };
+    bar.setProperty("ReversedProgress", "True");
+    EXPECT_EQ(litSpan(), Rectf(80, 0, 200, 40));
+    bar.setProperty("VerticalProgress", "True");
+    EXPECT_EQ(litSpan(), Rectf(0, 0, 200, 24)); // upright and reversed: from the top
+    bar.setProperty("ReversedProgress", "False");
+    EXPECT_EQ(litSpan(), Rectf(0, 16, 200, 40));
+    EXPECT_EQ(bar.litWidth(), 24);
+
+    bar.setProperty("EnabledColour", "FF30A050");
+    bar.setProperty("DisabledColour", "FF909090");
+    EXPECT_EQ(argb(find(drawnBy(bar), "ProgressBarLitMiddle")->colours.d_top_left), 0xFF30A050u);
+    bar.disable();
+    EXPECT_EQ(argb(find(drawnBy(bar), "ProgressBarLitMiddle")->colours.d_top_left), 0xFF909090u);
+    // The track keeps its own colours.
+    EXPECT_EQ(argb(find(drawnBy(bar), "ProgressBarMiddle")->colours.d_top_left), 0xFFFFFFFFu);
+}
