@@ -7,6 +7,7 @@
 #include "widgets/WheelForwarding.h"
 
 #include <CEGUI/Exceptions.h>
+#include <CEGUI/PropertyHelper.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Thumb.h>
@@ -49,6 +50,43 @@ MXLargeVertScrollbar::MXLargeVertScrollbar(const String& type, const String& nam
 {
 }
 
+namespace
+{
+// The stock skins' "VerticalScrollbar": here each type has its own imagery, arrows and thumb
+// for one orientation, so the property reads that orientation and refuses the other.
+class OrientationProperty : public Property
+{
+public:
+    OrientationProperty()
+        : Property("VerticalScrollbar",
+                   "Property to get whether the bar is upright; fixed by its type. Value is "
+                   "either \"True\" or \"False\".",
+                   "", false, "bool", "MoxieLook/Scrollbar")
+    {
+    }
+
+    String get(const PropertyReceiver* receiver) const override
+    {
+        return PropertyHelper<bool>::toString(
+            static_cast<const MXScrollbarBase*>(receiver)->isVertical());
+    }
+
+    void set(PropertyReceiver* receiver, const String& value) override
+    {
+        const auto* bar = static_cast<const MXScrollbarBase*>(receiver);
+        if (PropertyHelper<bool>::fromString(value) != bar->isVertical())
+            throw InvalidRequestException("\"VerticalScrollbar\": '" + value + "' does not suit " +
+                                          bar->getType() +
+                                          ": its orientation is its type's; create the other "
+                                          "scroll bar type instead.");
+    }
+
+    bool isDefault(const PropertyReceiver*) const override { return true; }
+    String getDefault(const PropertyReceiver* receiver) const override { return get(receiver); }
+    Property* clone() const override { return new OrientationProperty(*this); }
+};
+} // namespace
+
 MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
                                  const Orientation& orientation)
     : RedrawnWhenUncovered<Scrollbar>(type, name), d_orientation(orientation)
@@ -60,6 +98,8 @@ MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
     setMouseCursor(&lookImage(MouseCursorImageName));
     storeFrameSizes();
     setWindowRenderer(MXScrollbarRenderer::TypeName);
+    static OrientationProperty orientationProperty;
+    addProperty(&orientationProperty);
 }
 
 void MXScrollbarBase::storeFrameSizes()

@@ -48,6 +48,7 @@ public:
     void populateGeometryBuffer() override;
 
     const NinePieceFrame& getFrame() const { return d_frame; }
+    bool isVertical() const { return d_orientation.vertical; }
 
 protected:
     //! What differs between the two orientations. The type names are read through

@@ -31,17 +31,14 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
       "SelectedEditTextColour"}},
     {"Editbox", {"TextFormatting"}},
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},
-    {"HorizontalScrollbar", {"VerticalScrollbar"}},
     {"ImageButton",
      {"DisabledImageColour", "HorzImageFormatting", "HoverImageColour", "NormalImageColour",
       "PushedImageColour", "VertImageFormatting"}},
-    {"LargeVerticalScrollbar", {"VerticalScrollbar"}},
     {"RadioButton", {"RadioButtonRelativeHeight", "RadioButtonRelativeWidth"}},
     {"Slider", {"ReversedDirection", "VerticalSlider"}},
     {"Static", {"HorzFormatting", "TextPadding", "VertFormatting"}},
     {"TabButtonPane", {"EnableBottom", "EnableTop"}},
     {"TabContentPane", {"EnableBottom", "EnableTop"}},
-    {"VerticalScrollbar", {"VerticalScrollbar"}},
 };
 } // namespace
 

@@ -736,3 +736,30 @@ TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsToldInItsTint)
     // The track keeps its own colours.
     EXPECT_EQ(argb(find(drawnBy(bar), "ProgressBarMiddle")->colours.d_top_left), 0xFFFFFFFFu);
 }
+
+TEST_F(StockSkinTypesTest, ScrollbarsTellTheirOrientationAndRefuseTheOther)
+{
+    Window& across = moxietest::place("MoxieLook/HorizontalScrollbar", 10, 10, 200, 18);
+    Window& upright = moxietest::place("MoxieLook/LargeVerticalScrollbar", 250, 10, 24, 200);
+    EXPECT_EQ(across.getProperty("VerticalScrollbar"), "false");
+    EXPECT_EQ(upright.getProperty("VerticalScrollbar"), "true");
+    // A layout that states what the type is loads; one that asks for the other is told why.
+    across.setProperty("VerticalScrollbar", "False");
+    upright.setProperty("VerticalScrollbar", "True");
+    try
+    {
+        across.setProperty("VerticalScrollbar", "True");
+        ADD_FAILURE() << "a horizontal bar turned upright";
+    }
+    catch (const InvalidRequestException& refusal)
+    {
+        EXPECT_NE(refusal.getMessage().find("MoxieLook/HorizontalScrollbar"), String::npos);
+    }
+    // The bar still works across: a click right of the thumb pages on.
+    auto& bar = static_cast<Scrollbar&>(across);
+    bar.setDocumentSize(1000);
+    bar.setPageSize(100);
+    const Rectf thumb = bar.getThumb()->getUnclippedOuterRect().get();
+    moxietest::click(thumb.right() + 40, thumb.top() + thumb.getHeight() / 2);
+    EXPECT_GT(bar.getScrollPosition(), 0);
+}
