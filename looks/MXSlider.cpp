@@ -26,6 +26,40 @@ MXSlider::MXSlider(const String& type, const String& name)
                           "marks; 0 shows none. Value is a float.",
                           &MXSlider::setTickFrequency, &MXSlider::getTickFrequency,
                           DefaultTickFrequency);
+    CEGUI_DEFINE_PROPERTY(MXSlider, bool, "ReversedDirection",
+                          "Property to get/set whether the value grows from the right. Value is "
+                          "either \"True\" or \"False\".",
+                          &MXSlider::setReversedDirection, &MXSlider::isReversedDirection, false);
+}
+
+void MXSlider::setReversedDirection(bool reversed)
+{
+    d_reversed = reversed;
+    if (getThumb())
+        updateThumb();
+    invalidate();
+}
+
+float MXSlider::travel() const
+{
+    const Window* thumb = partOrNull(*this, ThumbName);
+    return getPixelSize().d_width - (thumb ? thumb->getPixelSize().d_width : 0.0f);
+}
+
+float MXSlider::thumbLeftFor(float value) const
+{
+    const float max = getMaxValue();
+    const float free = travel();
+    const float x = max > 0 ? free / max * value : 0.0f;
+    return d_reversed ? free - x : x;
+}
+
+float MXSlider::valueAtThumbLeft(float left) const
+{
+    const float free = travel();
+    if (free <= 0 || getMaxValue() <= 0)
+        return 0.0f;
+    return (d_reversed ? free - left : left) / (free / getMaxValue());
 }
 
 void MXSlider::setTickFrequency(float frequency)
@@ -66,8 +100,7 @@ void MXSlider::updateThumb()
     const Sizef own = getPixelSize();
     const Sizef thumbSize = thumb->getPixelSize();
     const float free = own.d_width - thumbSize.d_width;
-    const float max = getMaxValue();
-    const float x = max > 0 ? free / max * getCurrentValue() : 0.0f;
+    const float x = thumbLeftFor(getCurrentValue());
     auto fraction = [&](float pixels) { return own.d_width > 0 ? pixels / own.d_width : 0.0f; };
     thumb->setHorzRange(0.0f, fraction(free));
     thumb->setPosition(
@@ -77,21 +110,18 @@ void MXSlider::updateThumb()
 float MXSlider::getValueFromThumb() const
 {
     const Thumb* thumb = getThumb();
-    const float x =
-        thumb->getUnclippedOuterRect().get().left() - getUnclippedOuterRect().get().left();
-    const float travel = getPixelSize().d_width - thumb->getPixelSize().d_width;
-    if (travel <= 0 || getMaxValue() <= 0)
-        return 0.0f;
-    return x / (travel / getMaxValue());
+    return valueAtThumbLeft(thumb->getUnclippedOuterRect().get().left() -
+                            getUnclippedOuterRect().get().left());
 }
 
 float MXSlider::getAdjustDirectionFromPoint(const Vector2f& point) const
 {
     const Rectf thumb = getThumb()->getUnclippedOuterRect().get();
+    const float towardsLess = d_reversed ? 1.0f : -1.0f;
     if (point.d_x < thumb.left())
-        return -1.0f;
+        return towardsLess;
     if (point.d_x > thumb.right())
-        return 1.0f;
+        return -towardsLess;
     return 0.0f;
 }
 
@@ -102,9 +132,8 @@ MXSlider::Ticks MXSlider::ticks() const
     // Written so that NaN settings fail the tests too.
     if (!(d_tickFrequency > 0) || !(max > 0))
         return {0.0f, 0};
-    const float travel = width - getThumb()->getPixelSize().d_width;
     const float spacing =
-        std::max(std::trunc(travel / max * getClickStep() * d_tickFrequency + 0.5f), 0.0f);
+        std::max(std::trunc(travel() / max * getClickStep() * d_tickFrequency + 0.5f), 0.0f);
     // A spacing that rounds to nothing would mean endless ticks: draw none.
     if (!(spacing > 0) || !std::isfinite(spacing))
         return {0.0f, 0};
@@ -143,8 +172,12 @@ void MXSlider::populateGeometryBuffer()
     const float thumbY =
         thumb->getUnclippedOuterRect().get().top() - getUnclippedOuterRect().get().top();
     const Sizef tick = d_tick->getRenderedSize();
-    const Vector2f first(area.left() + std::trunc(thumbSize.d_width * 0.5f + 0.5f),
-                         area.top() + thumbY - tick.d_height);
+    // The first tick stands at the thumb's centre for the value 0; reversed, the run of
+    // ticks ends there.
+    const float zeroCentre = thumbLeftFor(0.0f) + std::trunc(thumbSize.d_width * 0.5f + 0.5f);
+    const Vector2f first(
+        area.left() + (d_reversed ? zeroCentre - (marks.count - 1) * marks.spacing : zeroCentre),
+        area.top() + thumbY - tick.d_height);
     // Only the ticks that can be seen go into the geometry; more are drawn when uncovered.
     const Rectf seen = seenForDrawing();
     const float from =

@@ -1,5 +1,6 @@
 // "MoxieLook/Slider": a thumb ("MoxieLook/SliderThumb") riding on the bottom edge over a
-// three-piece track, with tick marks above it.
+// three-piece track, with tick marks above it, counted from the value's start end (the
+// right with "ReversedDirection").
 // Images: "SliderTrackLeft", "SlidertrackMiddle", "SliderTrackRight", "SliderTick";
 // the thumb: "SliderThumbNormal", "SliderThumbHover", cursor "MouseEsWeCursor".
 #pragma once
@@ -46,6 +47,14 @@ public:
     };
     Ticks ticks() const;
 
+    //! The stock skins' "ReversedDirection": the value grows from the right.
+    bool isReversedDirection() const { return d_reversed; }
+    void setReversedDirection(bool reversed);
+    //! The thumb's left edge for `value`, window-local, and the value at a thumb's left edge:
+    //! what placing, dragging and the ticks all go by.
+    float thumbLeftFor(float value) const;
+    float valueAtThumbLeft(float left) const;
+
 protected:
     virtual Thumb* createThumb(const String& name) const;
     void updateThumb() override;
@@ -55,7 +64,11 @@ protected:
 
 private:
     Event::ScopedConnection d_thumbWheel;
+    //! Pixels the thumb can travel.
+    float travel() const;
+
     float d_tickFrequency = DefaultTickFrequency;
+    bool d_reversed = false;
     const Image* d_trackLeft;
     const Image* d_trackMiddle;
     const Image* d_trackRight;

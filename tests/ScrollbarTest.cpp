@@ -267,6 +267,36 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.501f);
 }
 
+TEST(Slider, AReversedSliderGrowsFromTheRightInPlacingClickingDraggingAndTicks)
+{
+    moxietest::freshSheet();
+    auto& slider = static_cast<MXSlider&>(moxietest::place("MoxieLook/Slider", 10, 10, 200, 30));
+    slider.setMaxValue(1.0f);
+    slider.setClickStep(0.05f);
+    slider.setCurrentValue(0.25f);
+    slider.setProperty("ReversedDirection", "True");
+    EXPECT_NEAR(local(*slider.getThumb()).left(), 189 - 47.25f, 0.5f);
+
+    // The ticks run from the thumb's centre at 0, now the right.
+    std::vector<float> tickX;
+    for (const auto& quad : drawnBy(slider))
+        if (quad.image == "SliderTick")
+            tickX.push_back(quad.rect.left());
+    EXPECT_EQ(tickX, (std::vector<float>{7, 54, 101, 148, 195}));
+
+    // Left of the thumb is more.
+    moxietest::click(15, 30);
+    EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.3f);
+    // Dragging the thumb to the right end brings the value to 0.
+    const Vector2f grip = moxietest::centreOf(*slider.getThumb());
+    moxietest::pointerTo(grip.d_x, grip.d_y);
+    moxietest::leftDown();
+    moxietest::pointerTo(grip.d_x + 300, grip.d_y);
+    moxietest::leftUp();
+    EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.0f);
+    EXPECT_FLOAT_EQ(local(*slider.getThumb()).left(), 189);
+}
+
 TEST(ScrollablePane, ShowsBarsOnlyWhenTheContentNeedsThemAndScrollsIt)
 {
     moxietest::freshSheet();

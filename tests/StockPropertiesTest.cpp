@@ -35,7 +35,7 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
      {"DisabledImageColour", "HorzImageFormatting", "HoverImageColour", "NormalImageColour",
       "PushedImageColour", "VertImageFormatting"}},
     {"RadioButton", {"RadioButtonRelativeHeight", "RadioButtonRelativeWidth"}},
-    {"Slider", {"ReversedDirection", "VerticalSlider"}},
+    {"Slider", {"VerticalSlider"}},
     {"Static", {"HorzFormatting", "TextPadding", "VertFormatting"}},
     {"TabButtonPane", {"EnableBottom", "EnableTop"}},
     {"TabContentPane", {"EnableBottom", "EnableTop"}},
