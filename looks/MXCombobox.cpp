@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/PartLinkProperty.h"
 #include "widgets/PushButtonEx.h"
 
 #include <CEGUI/Font.h>
@@ -29,6 +30,39 @@ MXCombobox::MXCombobox(const String& type, const String& name)
     : RedrawnWhenUncovered<Combobox>(type, name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
+    // The stock skins' names for the edit area's colours and the button's pictures.
+    static const char* const colourHelp =
+        " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static const char* const imageHelp = " Value is an image name such as \"MoxieLook/Name\".";
+    static PartLinkProperty links[] = {
+        {"NormalEditTextColour",
+         String("Property to get/set the edit area's text colours.") + colourHelp, EditboxName,
+         "NormalTextColour", "ColourRect", WidgetTypeName},
+        {"SelectedEditTextColour",
+         String("Property to get/set the edit area's selected text colours.") + colourHelp,
+         EditboxName, "SelectedTextColour", "ColourRect", WidgetTypeName},
+        {"ActiveEditSelectionColour",
+         String("Property to get/set the edit area's selection colours while active.") + colourHelp,
+         EditboxName, "ActiveSelectionColour", "ColourRect", WidgetTypeName},
+        {"InactiveEditSelectionColour",
+         String("Property to get/set the edit area's selection colours while inactive.") +
+             colourHelp,
+         EditboxName, "InactiveSelectionColour", "ColourRect", WidgetTypeName},
+        {"DropDownButtonNormalImage",
+         String("Property to get/set the button's picture at rest.") + imageHelp, ButtonName,
+         "NormalImage", "Image", WidgetTypeName,
+         String(ImagesetName) + "/" + ButtonNormalImageName},
+        {"DropDownButtonHoverImage",
+         String("Property to get/set the button's picture under the pointer.") + imageHelp,
+         ButtonName, "HoverImage", "Image", WidgetTypeName,
+         String(ImagesetName) + "/" + ButtonHoverImageName},
+        {"DropDownButtonPushedImage",
+         String("Property to get/set the button's picture while pressed.") + imageHelp, ButtonName,
+         "PushedImage", "Image", WidgetTypeName,
+         String(ImagesetName) + "/" + ButtonPushedImageName},
+    };
+    for (PartLinkProperty& link : links)
+        addProperty(&link);
 }
 
 void MXCombobox::initialiseComponents()

@@ -13,6 +13,7 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/PropertyHelper.h>
 #include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/DefaultWindow.h>
 #include <CEGUI/widgets/Editbox.h>
 #include <CEGUI/widgets/FrameWindow.h>
@@ -762,4 +763,29 @@ TEST_F(StockSkinTypesTest, ScrollbarsTellTheirOrientationAndRefuseTheOther)
     const Rectf thumb = bar.getThumb()->getUnclippedOuterRect().get();
     moxietest::click(thumb.right() + 40, thumb.top() + thumb.getHeight() / 2);
     EXPECT_GT(bar.getScrollPosition(), 0);
+}
+
+TEST_F(StockSkinTypesTest, AComboBoxPassesItsStockPropertiesToItsParts)
+{
+    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 10, 200, 150));
+    combo.setText("Pears");
+    combo.setProperty("NormalEditTextColour", "FF102030");
+    EXPECT_EQ(combo.getEditbox()->getProperty("NormalTextColour"),
+              "tl:FF102030 tr:FF102030 bl:FF102030 br:FF102030");
+    EXPECT_EQ(combo.getProperty("NormalEditTextColour"),
+              "tl:FF102030 tr:FF102030 bl:FF102030 br:FF102030");
+    EXPECT_EQ(argb(find(drawnBy(*combo.getEditbox()), "text")->colours.d_top_left), 0xFF102030u);
+
+    // The button's pictures, as a layout for a stock skin names them.
+    EXPECT_TRUE(combo.isPropertyDefault("DropDownButtonHoverImage"));
+    combo.setProperty("DropDownButtonHoverImage", "MoxieLook/IconStar");
+    EXPECT_FALSE(combo.isPropertyDefault("DropDownButtonHoverImage"));
+    PushButton* button = combo.getPushButton();
+    const Vector2f over = moxietest::centreOf(*button);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    const auto hovered = find(drawnBy(*button), "IconStar");
+    ASSERT_TRUE(hovered);
+    EXPECT_EQ(hovered->rect.getSize(), button->getPixelSize()); // stretched as the look's own
+    moxietest::pointerTo(600, 500);
+    EXPECT_TRUE(find(drawnBy(*button), "ComboboxListButtonNormal"));
 }
