@@ -54,7 +54,7 @@ std::vector<Sample> stockSkinSamples()
              disabled.setText("Unavailable");
              disabled.disable();
          }},
-        {"MoxieLook/Static", 90,
+        {"MoxieLook/Static", 180,
          [](Card& card)
          {
              card.add("MoxieLook/Static", "frame and background", 10, 10, 180, 60);
@@ -63,6 +63,16 @@ std::vector<Sample> stockSkinSamples()
              Window& tinted = card.add("MoxieLook/Static", "tinted background", 410, 10, 180, 60);
              tinted.setProperty("BackgroundColours", "tl:FFFFE0A0 tr:FFFFE0A0 bl:FFA0C8FF "
                                                      "br:FFA0C8FF");
+             card.add("MoxieLook/Static", "text, left", 10, 100, 180, 60).setText("Ready");
+             Window& padded =
+                 card.add("MoxieLook/Static", "text, right, padded 10", 210, 100, 180, 60);
+             padded.setText("Ready");
+             padded.setProperty("HorzFormatting", "RightAligned");
+             padded.setProperty("TextPadding", "10");
+             Window& wrapped =
+                 card.add("MoxieLook/Static", "text, wrapped, centred", 410, 100, 180, 60);
+             wrapped.setText("A longer text that wraps onto a second line");
+             wrapped.setProperty("HorzFormatting", "WordWrapCentreAligned");
          }},
         {"MoxieLook/GroupBox", 140,
          [](Card& card)

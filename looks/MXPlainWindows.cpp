@@ -8,6 +8,8 @@
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <algorithm>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -206,6 +208,73 @@ void MXFramedWindow::populateGeometryBuffer()
         d_frame.setColours(faded(d_frameColours, alpha));
         d_frame.draw(buffer, area.d_min, nullptr);
     }
+}
+
+MXStaticFrame::MXStaticFrame(const String& type, const String& name) : MXFramedWindow(type, name)
+{
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXStaticFrame, String, "HorzFormatting",
+                          "Property to get/set the horizontal text formatting: \"LeftAligned\", "
+                          "\"RightAligned\", \"CentreAligned\", \"Justified\", "
+                          "\"WordWrapLeftAligned\", ...",
+                          &MXStaticFrame::setHorzFormatting, &MXStaticFrame::getHorzFormatting,
+                          "LeftAligned");
+    CEGUI_DEFINE_PROPERTY(MXStaticFrame, String, "VertFormatting",
+                          "Property to get/set the vertical text formatting: \"TopAligned\", "
+                          "\"BottomAligned\", \"CentreAligned\".",
+                          &MXStaticFrame::setVertFormatting, &MXStaticFrame::getVertFormatting,
+                          "CentreAligned");
+    CEGUI_DEFINE_PROPERTY(MXStaticFrame, float, "TextPadding",
+                          "Property to get/set the pixels between the frame and the text. Value "
+                          "is a float.",
+                          &MXStaticFrame::setTextPadding, &MXStaticFrame::getTextPadding, 0.0f);
+}
+
+void MXStaticFrame::setHorzFormatting(const String& name)
+{
+    d_horz = horzTextFormatFromName(name);
+    d_horzName = name;
+    invalidate();
+}
+
+void MXStaticFrame::setVertFormatting(const String& name)
+{
+    d_vert = vertTextFormatFromName(name);
+    d_vertName = name;
+    invalidate();
+}
+
+void MXStaticFrame::setTextPadding(float pixels)
+{
+    // Negative or no number: no padding rather than text outside the window.
+    d_textPadding = pixels > 0 && std::isfinite(pixels) ? pixels : 0.0f;
+    invalidate();
+}
+
+Rectf MXStaticFrame::textArea() const
+{
+    const Rectf area = frameArea();
+    Rectf inside = isFrameEnabled() ? d_frame.innerRect(area) : area;
+    const float room = std::max(0.0f, std::min(inside.getWidth(), inside.getHeight()) / 2);
+    const float pad = std::min(d_textPadding, room);
+    inside.d_min += Vector2f(pad, pad);
+    inside.d_max -= Vector2f(pad, pad);
+    return inside;
+}
+
+void MXStaticFrame::populateGeometryBuffer()
+{
+    MXFramedWindow::populateGeometryBuffer();
+    if (hasVisibleArea(*this))
+        drawWindowText(*this, textArea(), d_horz, d_vert,
+                       ColourRect(isEffectiveDisabled() ? MXLabel::DefaultDisabledTextColour
+                                                        : MXLabel::DefaultNormalTextColour));
+}
+
+void MXStaticFrame::onTextChanged(WindowEventArgs& e)
+{
+    MXFramedWindow::onTextChanged(e);
+    invalidate();
 }
 
 MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(type, name)

@@ -88,11 +88,34 @@ private:
     ColourRect d_backgroundColours{Colour(0xFFFFFFFF)};
 };
 
+//! The stock "Static": the frame, and its text inside, placed by the stock skins'
+//! "HorzFormatting", "VertFormatting" and "TextPadding" (pixels on every side).
 class MXStaticFrame : public MXFramedWindow
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/Static";
-    using MXFramedWindow::MXFramedWindow;
+
+    MXStaticFrame(const String& type, const String& name);
+
+    void setHorzFormatting(const String& name);
+    const String& getHorzFormatting() const { return d_horzName; }
+    void setVertFormatting(const String& name);
+    const String& getVertFormatting() const { return d_vertName; }
+    void setTextPadding(float pixels);
+    float getTextPadding() const { return d_textPadding; }
+    //! Window-local: inside the frame (if shown), less the padding.
+    Rectf textArea() const;
+
+protected:
+    void populateGeometryBuffer() override;
+    void onTextChanged(WindowEventArgs& e) override;
+
+private:
+    HorzTextFormat d_horz = HorzTextFormat::Left;
+    VertTextFormat d_vert = VertTextFormat::Centred;
+    String d_horzName = "LeftAligned";
+    String d_vertName = "CentreAligned";
+    float d_textPadding = 0.0f;
 };
 
 class MXGroupBox : public MXFramedWindow

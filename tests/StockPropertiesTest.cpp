@@ -32,7 +32,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
       "PushedImageColour", "VertImageFormatting"}},
     {"RadioButton", {"RadioButtonRelativeHeight", "RadioButtonRelativeWidth"}},
     {"Slider", {"VerticalSlider"}},
-    {"Static", {"HorzFormatting", "TextPadding", "VertFormatting"}},
     {"TabButtonPane", {"EnableBottom", "EnableTop"}},
     {"TabContentPane", {"EnableBottom", "EnableTop"}},
 };

@@ -789,3 +789,35 @@ TEST_F(StockSkinTypesTest, AComboBoxPassesItsStockPropertiesToItsParts)
     moxietest::pointerTo(600, 500);
     EXPECT_TRUE(find(drawnBy(*button), "ComboboxListButtonNormal"));
 }
+
+TEST_F(StockSkinTypesTest, AStaticPlacesItsTextInsideTheFrameByTheStockFormatting)
+{
+    auto& frame =
+        static_cast<MXStaticFrame&>(moxietest::place("MoxieLook/Static", 10, 10, 200, 60));
+    frame.setText("Ready");
+    const Rectf inside = frame.textArea();
+    auto textSpan = [&frame]
+    {
+        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
+        for (const DrawnQuad& quad : drawnBy(frame))
+            if (quad.image == "text")
+            {
+                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
+                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
+            }
+        return span;
+    };
+    // Left-aligned from the frame's inner edge by default, the text after the frame.
+    EXPECT_NEAR(textSpan().left(), inside.left(), 1.5f);
+    EXPECT_EQ(drawnBy(frame).back().image, "text");
+    frame.setProperty("TextPadding", "12");
+    EXPECT_NEAR(textSpan().left(), inside.left() + 12, 1.5f);
+    frame.setProperty("HorzFormatting", "RightAligned");
+    EXPECT_NEAR(textSpan().right(), inside.right() - 12, 1.5f);
+    EXPECT_EQ(frame.getProperty("HorzFormatting"), "RightAligned");
+    // A padding larger than the window leaves the text where the middle is, never outside.
+    frame.setProperty("TextPadding", "1000");
+    const Rectf squeezed = frame.textArea();
+    EXPECT_GE(squeezed.getWidth(), 0);
+    EXPECT_GE(squeezed.left(), 0);
+}
