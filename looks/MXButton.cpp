@@ -6,7 +6,10 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
 #include <CEGUI/PropertyHelper.h>
+#include <CEGUI/falagard/XMLEnumHelper.h>
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace CEGUI
 {
@@ -125,34 +128,137 @@ const Colour MXImageButton::DisabledImageColour(0x007F7F7F);
 MXImageButton::MXImageButton(const String& type, const String& name) : MXButton(type, name)
 {
     setStandardImageryEnabled(false);
+    applyFormatting();
+    const String propertyOrigin(WidgetTypeName);
+    const String colourHelp =
+        " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    CEGUI_DEFINE_PROPERTY(MXImageButton, ColourRect, "NormalImageColour",
+                          "Property to get/set the image's colours at rest." + colourHelp,
+                          &MXImageButton::setNormalImageColour,
+                          &MXImageButton::getNormalImageColour, ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXImageButton, ColourRect, "HoverImageColour",
+                          "Property to get/set the image's colours under the pointer." + colourHelp,
+                          &MXImageButton::setHoverImageColour, &MXImageButton::getHoverImageColour,
+                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXImageButton, ColourRect, "PushedImageColour",
+                          "Property to get/set the image's colours while pressed." + colourHelp,
+                          &MXImageButton::setPushedImageColour,
+                          &MXImageButton::getPushedImageColour, ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(MXImageButton, ColourRect, "DisabledImageColour",
+                          "Property to get/set the image's colours while disabled." + colourHelp,
+                          &MXImageButton::setDisabledImageColour,
+                          &MXImageButton::getDisabledImageColour, d_disabledTint);
+    CEGUI_DEFINE_PROPERTY(MXImageButton, HorizontalFormatting, "HorzImageFormatting",
+                          "Property to get/set how the images are placed across: "
+                          "\"LeftAligned\", \"CentreAligned\", \"RightAligned\", "
+                          "\"Stretched\" or \"Tiled\".",
+                          &MXImageButton::setHorzImageFormatting,
+                          &MXImageButton::getHorzImageFormatting, HF_STRETCHED);
+    CEGUI_DEFINE_PROPERTY(MXImageButton, VerticalFormatting, "VertImageFormatting",
+                          "Property to get/set how the images are placed upright: "
+                          "\"TopAligned\", \"CentreAligned\", \"BottomAligned\", "
+                          "\"Stretched\" or \"Tiled\".",
+                          &MXImageButton::setVertImageFormatting,
+                          &MXImageButton::getVertImageFormatting, VF_STRETCHED);
 }
 
+void MXImageButton::setNormalImageColour(const ColourRect& colours)
+{
+    d_normalTint = colours;
+    invalidate();
+}
+
+void MXImageButton::setHoverImageColour(const ColourRect& colours)
+{
+    d_hoverTint = colours;
+    invalidate();
+}
+
+void MXImageButton::setPushedImageColour(const ColourRect& colours)
+{
+    d_pushedTint = colours;
+    invalidate();
+}
+
+void MXImageButton::setDisabledImageColour(const ColourRect& colours)
+{
+    d_disabledTint = colours;
+    invalidate();
+}
+
+void MXImageButton::setHorzImageFormatting(HorizontalFormatting formatting)
+{
+    d_horzFormatting = formatting;
+    applyFormatting();
+    invalidate();
+}
+
+void MXImageButton::setVertImageFormatting(VerticalFormatting formatting)
+{
+    d_vertFormatting = formatting;
+    applyFormatting();
+    invalidate();
+}
+
+void MXImageButton::applyFormatting()
+{
+    // CEGUI's formatting names, in the numbering the button's images know.
+    static constexpr FormattedImage::HorzFormatting across[] = {
+        FormattedImage::LeftAligned, FormattedImage::HorzCentred, FormattedImage::RightAligned,
+        FormattedImage::HorzStretched, FormattedImage::HorzTiled};
+    static constexpr FormattedImage::VertFormatting upright[] = {
+        FormattedImage::TopAligned, FormattedImage::VertCentred, FormattedImage::BottomAligned,
+        FormattedImage::VertStretched, FormattedImage::VertTiled};
+    const auto horz = across[std::min<std::size_t>(d_horzFormatting, std::size(across) - 1)];
+    const auto vert = upright[std::min<std::size_t>(d_vertFormatting, std::size(upright) - 1)];
+    for (FormattedImage* image : {&d_normalImage, &d_hoverImage, &d_pushedImage, &d_disabledImage})
+    {
+        image->setHorzFormatting(horz);
+        image->setVertFormatting(vert);
+    }
+}
+
+void MXImageButton::drawTinted(const Colour& primary, const Colour& secondary,
+                               const NinePieceFrame& frame, FormattedImage& image,
+                               const ColourRect& tint, const Colour& textColour)
+{
+    // The image keeps its own colours however the draw ends.
+    struct Restore
+    {
+        FormattedImage& image;
+        const ColourRect own;
+        ~Restore() { image.setColours(own); }
+    } restore{image, image.getColours()};
+    image.setColours(tint);
+    drawState(primary, secondary, frame, image.getImage() != nullptr, image, textColour);
+}
+
+void MXImageButton::drawNormal()
+{
+    drawTinted(NormalPrimaryColour, NormalSecondaryColour, d_normalFrame, d_normalImage,
+               d_normalTint, getNormalTextColour());
+}
+
+// A state without its own image shows the normal one, in the state's tint.
 void MXImageButton::drawHover()
 {
-    if (isHoverImageEnabled())
-        return MXButton::drawHover();
-    drawState(HoverPrimaryColour, HoverSecondaryColour, d_hoverFrame, isNormalImageEnabled(),
-              d_normalImage, getHoverTextColour());
+    drawTinted(HoverPrimaryColour, HoverSecondaryColour, d_hoverFrame,
+               isHoverImageEnabled() ? d_hoverImage : d_normalImage, d_hoverTint,
+               getHoverTextColour());
 }
 
 void MXImageButton::drawPushed()
 {
-    if (isPushedImageEnabled())
-        return MXButton::drawPushed();
-    drawState(PushedPrimaryColour, PushedSecondaryColour, d_pushedFrame, isNormalImageEnabled(),
-              d_normalImage, getPushedTextColour());
+    drawTinted(PushedPrimaryColour, PushedSecondaryColour, d_pushedFrame,
+               isPushedImageEnabled() ? d_pushedImage : d_normalImage, d_pushedTint,
+               getPushedTextColour());
 }
 
 void MXImageButton::drawDisabled()
 {
-    if (isDisabledImageEnabled())
-        return MXButton::drawDisabled();
-    // The normal image, greyed for this draw only.
-    const ColourRect own = d_normalImage.getColours();
-    d_normalImage.setColours(ColourRect(DisabledImageColour));
-    drawState(DisabledPrimaryColour, DisabledSecondaryColour, d_normalFrame, isNormalImageEnabled(),
-              d_normalImage, getDisabledTextColour());
-    d_normalImage.setColours(own);
+    drawTinted(DisabledPrimaryColour, DisabledSecondaryColour, d_normalFrame,
+               isDisabledImageEnabled() ? d_disabledImage : d_normalImage, d_disabledTint,
+               getDisabledTextColour());
 }
 
 MXIconButton::MXIconButton(const String& type, const String& name) : MXButton(type, name)

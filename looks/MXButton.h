@@ -8,6 +8,8 @@
 #include "looks/LookFactory.h"
 #include "widgets/PushButtonEx.h"
 
+#include <CEGUI/falagard/Enums.h>
+
 namespace CEGUI
 {
 namespace MoxieLook
@@ -90,6 +92,9 @@ protected:
 //! "MoxieLook/ImageButton": drawn from its state images alone ("NormalImage", "HoverImage",
 //! "PushedImage", "DisabledImage", stretched over the button, text over them). A state
 //! without an image shows the normal one; disabled, greyed.
+//! The stock skins' "NormalImageColour", "HoverImageColour", "PushedImageColour" and
+//! "DisabledImageColour" tint whatever image each state shows; "HorzImageFormatting" and
+//! "VertImageFormatting" place all four images.
 class MXImageButton : public MXButton
 {
 public:
@@ -98,10 +103,37 @@ public:
 
     MXImageButton(const String& type, const String& name);
 
+    void setNormalImageColour(const ColourRect& colours);
+    const ColourRect& getNormalImageColour() const { return d_normalTint; }
+    void setHoverImageColour(const ColourRect& colours);
+    const ColourRect& getHoverImageColour() const { return d_hoverTint; }
+    void setPushedImageColour(const ColourRect& colours);
+    const ColourRect& getPushedImageColour() const { return d_pushedTint; }
+    void setDisabledImageColour(const ColourRect& colours);
+    const ColourRect& getDisabledImageColour() const { return d_disabledTint; }
+    void setHorzImageFormatting(HorizontalFormatting formatting);
+    HorizontalFormatting getHorzImageFormatting() const { return d_horzFormatting; }
+    void setVertImageFormatting(VerticalFormatting formatting);
+    VerticalFormatting getVertImageFormatting() const { return d_vertFormatting; }
+
 protected:
+    void drawNormal() override;
     void drawHover() override;
     void drawPushed() override;
     void drawDisabled() override;
+
+private:
+    //! Draws a state showing `image`, tinted `tint` for this draw only.
+    void drawTinted(const Colour& primary, const Colour& secondary, const NinePieceFrame& frame,
+                    FormattedImage& image, const ColourRect& tint, const Colour& textColour);
+    void applyFormatting();
+
+    ColourRect d_normalTint{Colour(0xFFFFFFFF)};
+    ColourRect d_hoverTint{Colour(0xFFFFFFFF)};
+    ColourRect d_pushedTint{Colour(0xFFFFFFFF)};
+    ColourRect d_disabledTint{Colour(0xFF000000 | DisabledImageColour.getARGB())};
+    HorizontalFormatting d_horzFormatting = HF_STRETCHED;
+    VerticalFormatting d_vertFormatting = VF_STRETCHED;
 };
 
 //! "MoxieLook/IconButton": the framed button with an icon centred at its own size

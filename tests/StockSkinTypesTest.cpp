@@ -821,3 +821,33 @@ TEST_F(StockSkinTypesTest, AStaticPlacesItsTextInsideTheFrameByTheStockFormattin
     EXPECT_GE(squeezed.getWidth(), 0);
     EXPECT_GE(squeezed.left(), 0);
 }
+
+TEST_F(StockSkinTypesTest, AnImageButtonTintsAndPlacesItsPicturesAsTheStockSkinsSay)
+{
+    Window& button = moxietest::place("MoxieLook/ImageButton", 10, 10, 80, 40);
+    button.setProperty("NormalImage", "MoxieLook/IconStar");
+    button.setProperty("HoverImageColour", "FFFF8000");
+    button.setProperty("DisabledImageColour", "FF404040");
+    EXPECT_EQ(button.getProperty("HorzImageFormatting"), "Stretched");
+    EXPECT_EQ(drawnBy(button)[0].rect, Rectf(0, 0, 80, 40));
+
+    // Centred both ways, the picture keeps its own size; every state follows.
+    button.setProperty("HorzImageFormatting", "CentreAligned");
+    button.setProperty("VertImageFormatting", "BottomAligned");
+    EXPECT_EQ(button.getProperty("VertImageFormatting"), "BottomAligned");
+    const Rectf placed = drawnBy(button)[0].rect;
+    EXPECT_NEAR(placed.left(), 40 - placed.getWidth() / 2, 0.51f);
+    EXPECT_EQ(placed.bottom(), 40);
+    EXPECT_LT(placed.getWidth(), 80);
+
+    // Hovered with no hover picture: the normal one, in the hover tint.
+    moxietest::pointerTo(50, 30);
+    auto quads = drawnBy(button);
+    EXPECT_EQ(quads[0].image, "IconStar");
+    EXPECT_EQ(quads[0].rect, placed);
+    EXPECT_EQ(argb(quads[0].colours.d_top_left), 0xFFFF8000u);
+    moxietest::pointerTo(600, 500);
+    EXPECT_EQ(argb(drawnBy(button)[0].colours.d_top_left), 0xFFFFFFFFu);
+    button.disable();
+    EXPECT_EQ(argb(drawnBy(button)[0].colours.d_top_left), 0xFF404040u);
+}
