@@ -90,6 +90,10 @@ std::vector<Sample> stockSkinSamples()
              Window& pane = card.add("MoxieLook/TabContentPane", "", 10, 10, 260, 90);
              childOf(pane, "MoxieLook/Label", "A page's contents", 10, 10, 200, 24)
                  .setProperty("HorzFormatting", "LeftAligned");
+             // As the tab control sets it for tabs below the page.
+             Window& above = card.add("MoxieLook/TabContentPane", "edge on top", 300, 10, 260, 70);
+             above.setProperty("EnableTop", "1");
+             above.setProperty("EnableBottom", "0");
          }},
         {"MoxieLook/TabButtonPane", 60,
          [](Card& card)

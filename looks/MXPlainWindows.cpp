@@ -8,8 +8,10 @@
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/Image.h>
+#include <CEGUI/TplWindowProperty.h>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace CEGUI
 {
@@ -369,28 +371,80 @@ void MXGroupBox::populateGeometryBuffer()
 
 // --- The tab control's panes ----------------------------------------------------------------
 
+namespace
+{
+template <typename Pane>
+void addPaneEdgeProperties(Pane& pane, uint top, uint bottom)
+{
+    static TplWindowProperty<Pane, uint> enableTop(
+        "EnableTop", "Property to get/set whether the top edge is drawn. Value is 0 or 1.",
+        Pane::WidgetTypeName, &Pane::setEnableTop, &Pane::getEnableTop, top);
+    static TplWindowProperty<Pane, uint> enableBottom(
+        "EnableBottom", "Property to get/set whether the bottom edge is drawn. Value is 0 or 1.",
+        Pane::WidgetTypeName, &Pane::setEnableBottom, &Pane::getEnableBottom, bottom);
+    pane.addProperty(&enableTop);
+    pane.addProperty(&enableBottom);
+}
+
+// The inner area moved with an edge: the children follow, and the pane is drawn again.
+void edgesChanged(Window& pane)
+{
+    pane.notifyScreenAreaChanged(true);
+    pane.performChildWindowLayout();
+    pane.invalidate();
+}
+} // namespace
+
 MXTabContentPane::MXTabContentPane(const String& type, const String& name)
     : RedrawnWhenUncovered<DefaultWindow>(type, name)
 {
     StaticFrameImages::setCursorOf(*this);
+    addPaneEdgeProperties(*this, 0, 1);
+}
+
+void MXTabContentPane::setEnableTop(uint enabled)
+{
+    if (std::exchange(d_top, enabled != 0) != (enabled != 0))
+        edgesChanged(*this);
+}
+
+void MXTabContentPane::setEnableBottom(uint enabled)
+{
+    if (std::exchange(d_bottom, enabled != 0) != (enabled != 0))
+        edgesChanged(*this);
 }
 
 Rectf MXTabContentPane::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
 {
-    return MXTabPane::edges().inside(skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
-                                                           : getUnclippedOuterRect().get());
+    return MXTabPane::edges(d_top, d_bottom)
+        .inside(skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
+                                      : getUnclippedOuterRect().get());
 }
 
 void MXTabContentPane::populateGeometryBuffer()
 {
     if (hasVisibleArea(*this))
-        MXTabPane::drawPieces(getGeometryBuffer(), getPixelSize(), getEffectiveAlpha());
+        MXTabPane::drawPieces(getGeometryBuffer(), getPixelSize(), getEffectiveAlpha(), d_top,
+                              d_bottom);
 }
 
 MXTabButtonPane::MXTabButtonPane(const String& type, const String& name)
     : RedrawnWhenUncovered<DefaultWindow>(type, name)
 {
     StaticFrameImages::setCursorOf(*this);
+    addPaneEdgeProperties(*this, 0, 1);
+}
+
+void MXTabButtonPane::setEnableTop(uint enabled)
+{
+    if (std::exchange(d_top, enabled != 0) != (enabled != 0))
+        invalidate();
+}
+
+void MXTabButtonPane::setEnableBottom(uint enabled)
+{
+    if (std::exchange(d_bottom, enabled != 0) != (enabled != 0))
+        invalidate();
 }
 
 void MXTabButtonPane::populateGeometryBuffer()
@@ -399,9 +453,13 @@ void MXTabButtonPane::populateGeometryBuffer()
         return;
     const Sizef size = getPixelSize();
     const float height = std::min(BaseLineHeight, size.d_height);
-    lookImage(MXTabPane::LowerImageName)
-        .render(getGeometryBuffer(), Rectf(0, size.d_height - height, size.d_width, size.d_height),
-                nullptr, withAlpha(ColourRect(MXTabPane::MiddleColour), getEffectiveAlpha()));
+    const ColourRect tint = withAlpha(ColourRect(MXTabPane::MiddleColour), getEffectiveAlpha());
+    const Image& line = lookImage(MXTabPane::LowerImageName);
+    if (d_top)
+        line.render(getGeometryBuffer(), Rectf(0, 0, size.d_width, height), nullptr, tint);
+    if (d_bottom)
+        line.render(getGeometryBuffer(),
+                    Rectf(0, size.d_height - height, size.d_width, size.d_height), nullptr, tint);
 }
 
 } // namespace MoxieLook

@@ -161,9 +161,20 @@ public:
 
     MXTabContentPane(const String& type, const String& name);
 
+    //! The stock skins' "EnableTop" and "EnableBottom" (0 or 1, as CEGUI's tab control sets
+    //! them for where its tabs stand): the edge rows drawn; the sides always are.
+    void setEnableTop(uint enabled);
+    uint getEnableTop() const { return d_top; }
+    void setEnableBottom(uint enabled);
+    uint getEnableBottom() const { return d_bottom; }
+
 protected:
     void populateGeometryBuffer() override;
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+
+private:
+    uint d_top = 0;
+    uint d_bottom = 1;
 };
 
 class MXTabButtonPane : public RedrawnWhenUncovered<DefaultWindow>
@@ -175,8 +186,19 @@ public:
 
     MXTabButtonPane(const String& type, const String& name);
 
+    //! "EnableTop" and "EnableBottom": the line along the top, along the bottom (where the
+    //! tabs stand on it when above the content).
+    void setEnableTop(uint enabled);
+    uint getEnableTop() const { return d_top; }
+    void setEnableBottom(uint enabled);
+    uint getEnableBottom() const { return d_bottom; }
+
 protected:
     void populateGeometryBuffer() override;
+
+private:
+    uint d_top = 0;
+    uint d_bottom = 1;
 };
 
 using MXLabelFactory = LookFactory<MXLabel>;

@@ -31,8 +31,12 @@ public:
     //! The side columns' widths and the lower row's height, which is the lower piece's
     //! width.
     static EdgeInsets edges();
-    //! The pieces over a window-local area of `size`, shared with the content pane type.
-    static void drawPieces(GeometryBuffer& buffer, const Sizef& size, float alpha);
+    //! The pieces over a window-local area of `size`, shared with the content pane type,
+    //! which may ask for the lower row along its top too, or for none at its bottom.
+    static void drawPieces(GeometryBuffer& buffer, const Sizef& size, float alpha,
+                           bool topRow = false, bool bottomRow = true);
+    //! The edges with those rows.
+    static EdgeInsets edges(bool topRow, bool bottomRow);
 
 protected:
     void populateGeometryBuffer() override;

@@ -29,8 +29,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},
     {"RadioButton", {"RadioButtonRelativeHeight", "RadioButtonRelativeWidth"}},
     {"Slider", {"VerticalSlider"}},
-    {"TabButtonPane", {"EnableBottom", "EnableTop"}},
-    {"TabContentPane", {"EnableBottom", "EnableTop"}},
 };
 } // namespace
 

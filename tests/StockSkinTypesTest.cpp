@@ -851,3 +851,31 @@ TEST_F(StockSkinTypesTest, AnImageButtonTintsAndPlacesItsPicturesAsTheStockSkins
     button.disable();
     EXPECT_EQ(argb(drawnBy(button)[0].colours.d_top_left), 0xFF404040u);
 }
+
+TEST_F(StockSkinTypesTest, TabPanesDrawTheEdgesTheTabControlAsksFor)
+{
+    // As CEGUI's tab control sets them for tabs below the content: top edge on, bottom off.
+    Window& pane = moxietest::place("MoxieLook/TabContentPane", 10, 10, 200, 100);
+    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
+    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
+    pane.addChild(child);
+    EXPECT_EQ(pane.getProperty("EnableTop"), "0");
+    const float top = child->getUnclippedOuterRect().get().top();
+    pane.setProperty("EnableTop", "1");
+    pane.setProperty("EnableBottom", "0");
+    const auto quads = drawnBy(pane);
+    EXPECT_EQ(
+        moxietest::imageNames(quads),
+        (std::vector<std::string>{"TabPaneLower", "TabPaneLeft", "TabPaneMiddle", "TabPaneRight"}));
+    const float row = quads[0].rect.getHeight();
+    EXPECT_EQ(quads[0].rect, Rectf(0, 0, 200, row)); // one straight edge across
+    EXPECT_EQ(quads[2].rect.bottom(), 100);          // the middle reaches the bottom
+    EXPECT_EQ(child->getUnclippedOuterRect().get().top(), top + row); // below the new edge
+
+    Window& strip = moxietest::place("MoxieLook/TabButtonPane", 10, 150, 200, 26);
+    strip.setProperty("EnableTop", "1");
+    strip.setProperty("EnableBottom", "0");
+    const auto line = drawnBy(strip);
+    ASSERT_EQ(line.size(), 1u);
+    EXPECT_EQ(line[0].rect, Rectf(0, 0, 200, 2));
+}
