@@ -33,12 +33,14 @@ ImageBesideLabel placeImageBesideLabel(const Sizef& area, const Sizef& imageSize
 
 void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Image& image,
                           const Image* overlay, const ColourRect& imageColours,
-                          const ColourRect& textColours, float padding)
+                          const ColourRect& textColours, float padding, const Sizef& imageScale)
 {
     const Font* font = window.getFont();
-    const ImageBesideLabel at =
-        placeImageBesideLabel(window.getPixelSize(), image.getRenderedSize(),
-                              font ? font->getLineSpacing() : 0.0f, padding);
+    const Sizef own = image.getRenderedSize();
+    const ImageBesideLabel at = placeImageBesideLabel(
+        window.getPixelSize(),
+        Sizef(own.d_width * imageScale.d_width, own.d_height * imageScale.d_height),
+        font ? font->getLineSpacing() : 0.0f, padding);
     image.render(buffer, at.image, nullptr, imageColours);
     if (overlay)
         overlay->render(buffer, at.image, nullptr, imageColours);

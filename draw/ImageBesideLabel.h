@@ -25,10 +25,12 @@ ImageBesideLabel placeImageBesideLabel(const Sizef& area, const Sizef& imageSize
                                        float padding);
 
 //! Draws `image` (and `overlay` over it, if any) then the window text, left-aligned; the
-//! colours are final (the window's alpha already in).
+//! colours are final (the window's alpha already in). `imageScale` stretches the image
+//! across and upright (the stock skins' relative sizes).
 void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Image& image,
                           const Image* overlay, const ColourRect& imageColours,
-                          const ColourRect& textColours, float padding);
+                          const ColourRect& textColours, float padding,
+                          const Sizef& imageScale = Sizef(1, 1));
 
 } // namespace MoxieLook
 } // namespace CEGUI

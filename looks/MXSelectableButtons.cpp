@@ -6,6 +6,7 @@
 
 #include <CEGUI/Image.h>
 #include <CEGUI/PropertyHelper.h>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -34,7 +35,7 @@ void drawSelectable(Window& window, const SelectablePicture& picture, const Colo
     else if (picture.state == ButtonDrawState::Disabled)
         colours = withAlpha(colours, alpha * SelectableShading::DisabledImageAlpha);
     drawImageBesideLabel(window, window.getGeometryBuffer(), *picture.image, picture.overlay,
-                         colours, faded(textColours, alpha), padding);
+                         colours, faded(textColours, alpha), padding, picture.scale);
 }
 
 namespace
@@ -114,6 +115,37 @@ MXRadioButton::MXRadioButton(const String& type, const String& name)
       d_selectedFocus(&lookImage(SelectedFocusImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXRadioButton, float, "RadioButtonRelativeWidth",
+                          "Property to get/set the state image's width as a multiple of its "
+                          "own. Value is a float.",
+                          &MXRadioButton::setImageRelativeWidth,
+                          &MXRadioButton::getImageRelativeWidth, 1.0f);
+    CEGUI_DEFINE_PROPERTY(MXRadioButton, float, "RadioButtonRelativeHeight",
+                          "Property to get/set the state image's height as a multiple of its "
+                          "own. Value is a float.",
+                          &MXRadioButton::setImageRelativeHeight,
+                          &MXRadioButton::getImageRelativeHeight, 1.0f);
+}
+
+namespace
+{
+float usableScale(float scale)
+{
+    return scale > 0 && std::isfinite(scale) ? scale : 0.0f;
+}
+} // namespace
+
+void MXRadioButton::setImageRelativeWidth(float scale)
+{
+    d_imageScale.d_width = usableScale(scale);
+    invalidate();
+}
+
+void MXRadioButton::setImageRelativeHeight(float scale)
+{
+    d_imageScale.d_height = usableScale(scale);
+    invalidate();
 }
 
 void MXRadioButton::initialiseComponents()
@@ -158,7 +190,8 @@ void MXRadioButton::populateGeometryBuffer()
     const bool lit = state == ButtonDrawState::Hover || state == ButtonDrawState::Pushed;
     const Image* image =
         isSelected() ? (lit ? d_selectedFocus : d_selected) : (lit ? d_focus : d_normal);
-    drawSelectable(*this, {image, nullptr, state}, textColourOf(*this, state), LabelPadding);
+    drawSelectable(*this, {image, nullptr, state, d_imageScale}, textColourOf(*this, state),
+                   LabelPadding);
 }
 
 // --- check box --------------------------------------------------------------------------

@@ -25,6 +25,7 @@ struct SelectablePicture
     const Image* image;
     const Image* overlay; //!< drawn over the image, or null
     ButtonDrawState state;
+    Sizef scale{1, 1}; //!< of the image, across and upright
 };
 
 //! Shading shared by the selectable looks.
@@ -84,6 +85,13 @@ public:
     MXRadioButton(const String& type, const String& name);
     void initialiseComponents() override;
 
+    //! The stock skins' "RadioButtonRelativeWidth" and "...Height": the state image's size
+    //! as a multiple of its own (the label moves with its width); no number or below 0: 0.
+    void setImageRelativeWidth(float scale);
+    float getImageRelativeWidth() const { return d_imageScale.d_width; }
+    void setImageRelativeHeight(float scale);
+    float getImageRelativeHeight() const { return d_imageScale.d_height; }
+
 protected:
     void populateGeometryBuffer() override;
 
@@ -92,6 +100,7 @@ private:
     const Image* d_focus;
     const Image* d_selected;
     const Image* d_selectedFocus;
+    Sizef d_imageScale{1, 1};
 };
 
 class MXCheckbox : public RedrawnWhenUncovered<CEGUI::ToggleButton>, public SelectableShading

@@ -27,7 +27,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
     {"ComboEditbox", {"TextFormatting"}},
     {"Editbox", {"TextFormatting"}},
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},
-    {"RadioButton", {"RadioButtonRelativeHeight", "RadioButtonRelativeWidth"}},
     {"Slider", {"VerticalSlider"}},
 };
 } // namespace

@@ -879,3 +879,27 @@ TEST_F(StockSkinTypesTest, TabPanesDrawTheEdgesTheTabControlAsksFor)
     ASSERT_EQ(line.size(), 1u);
     EXPECT_EQ(line[0].rect, Rectf(0, 0, 200, 2));
 }
+
+TEST_F(StockSkinTypesTest, ARadioButtonScalesItsPictureAndTheLabelFollows)
+{
+    Window& radio = moxietest::place("MoxieLook/RadioButton", 10, 10, 200, 40);
+    radio.setText("Stereo");
+    const auto before = drawnBy(radio);
+    const Rectf own = before[0].rect;
+    const float textLeft = find(before, "text")->rect.left();
+
+    radio.setProperty("RadioButtonRelativeWidth", "0.5");
+    radio.setProperty("RadioButtonRelativeHeight", "1.5");
+    const auto after = drawnBy(radio);
+    EXPECT_EQ(after[0].image, before[0].image);
+    EXPECT_NEAR(after[0].rect.getWidth(), own.getWidth() * 0.5f, 0.01f);
+    EXPECT_NEAR(after[0].rect.getHeight(), own.getHeight() * 1.5f, 0.01f);
+    EXPECT_NEAR((after[0].rect.top() + after[0].rect.bottom()) / 2, 20, 1.0f); // still centred
+    EXPECT_NEAR(find(after, "text")->rect.left(), textLeft - own.getWidth() * 0.5f, 1.0f);
+
+    // A scale that is no size leaves no picture, and no mess.
+    radio.setProperty("RadioButtonRelativeWidth", "-3");
+    EXPECT_EQ(radio.getProperty("RadioButtonRelativeWidth"), "0");
+    const auto picture = find(drawnBy(radio), before[0].image);
+    EXPECT_TRUE(!picture || picture->rect.getWidth() == 0);
+}
