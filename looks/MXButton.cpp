@@ -47,7 +47,78 @@ MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, 
     setHoverTextColour(EnabledTextLabelColour);
     setPushedTextColour(EnabledTextLabelColour);
     setDisabledTextColour(DisabledTextLabelColour);
+
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXButton, HorizontalFormatting, "HorzImageFormatting",
+                          "Property to get/set how the custom images are placed across: "
+                          "\"LeftAligned\", \"CentreAligned\", \"RightAligned\", "
+                          "\"Stretched\" or \"Tiled\".",
+                          &MXButton::setHorzImageFormatting, &MXButton::getHorzImageFormatting,
+                          HF_STRETCHED);
+    CEGUI_DEFINE_PROPERTY(MXButton, VerticalFormatting, "VertImageFormatting",
+                          "Property to get/set how the custom images are placed upright: "
+                          "\"TopAligned\", \"CentreAligned\", \"BottomAligned\", "
+                          "\"Stretched\" or \"Tiled\".",
+                          &MXButton::setVertImageFormatting, &MXButton::getVertImageFormatting,
+                          VF_STRETCHED);
+    CEGUI_DEFINE_PROPERTY(MXButton, String, "HorzLabelFormatting",
+                          "Property to get/set the label's horizontal formatting: "
+                          "\"LeftAligned\", \"RightAligned\", \"CentreAligned\", "
+                          "\"Justified\", \"WordWrapLeftAligned\", ...",
+                          &MXButton::setHorzLabelFormatting, &MXButton::getHorzLabelFormatting,
+                          "CentreAligned");
+    CEGUI_DEFINE_PROPERTY(MXButton, String, "VertLabelFormatting",
+                          "Property to get/set the label's vertical formatting: \"TopAligned\", "
+                          "\"BottomAligned\", \"CentreAligned\".",
+                          &MXButton::setVertLabelFormatting, &MXButton::getVertLabelFormatting,
+                          "CentreAligned");
 }
+
+void MXButton::setHorzImageFormatting(HorizontalFormatting formatting)
+{
+    d_horzImageFormatting = formatting;
+    invalidate();
+}
+
+void MXButton::setVertImageFormatting(VerticalFormatting formatting)
+{
+    d_vertImageFormatting = formatting;
+    invalidate();
+}
+
+void MXButton::setHorzLabelFormatting(const String& name)
+{
+    d_horzLabel = horzTextFormatFromName(name);
+    d_horzLabelName = name;
+    invalidate();
+}
+
+void MXButton::setVertLabelFormatting(const String& name)
+{
+    d_vertLabel = vertTextFormatFromName(name);
+    d_vertLabelName = name;
+    invalidate();
+}
+
+namespace
+{
+// CEGUI's formatting, in the numbering the button's images know.
+FormattedImage::HorzFormatting formattingOf(HorizontalFormatting formatting)
+{
+    static constexpr FormattedImage::HorzFormatting across[] = {
+        FormattedImage::LeftAligned, FormattedImage::HorzCentred, FormattedImage::RightAligned,
+        FormattedImage::HorzStretched, FormattedImage::HorzTiled};
+    return across[std::min<std::size_t>(formatting, std::size(across) - 1)];
+}
+
+FormattedImage::VertFormatting formattingOf(VerticalFormatting formatting)
+{
+    static constexpr FormattedImage::VertFormatting upright[] = {
+        FormattedImage::TopAligned, FormattedImage::VertCentred, FormattedImage::BottomAligned,
+        FormattedImage::VertStretched, FormattedImage::VertTiled};
+    return upright[std::min<std::size_t>(formatting, std::size(upright) - 1)];
+}
+} // namespace
 
 void MXButton::storeFrameSizes()
 {
@@ -95,6 +166,11 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
 
     if (useCustomImage)
     {
+        // Applied here: an image given later comes stretched.
+        if (d_horzImageFormatting)
+            customImage.setHorzFormatting(formattingOf(*d_horzImageFormatting));
+        if (d_vertImageFormatting)
+            customImage.setVertFormatting(formattingOf(*d_vertImageFormatting));
         customImage.setColours(withAlpha(customImage.getColours(), alpha));
         const Rectf seen = seenForDrawing();
         customImage.draw(buffer, area.d_min, nullptr, &seen);
@@ -103,11 +179,16 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
     const Font* font = getFont();
     if (!font)
         return;
-    const float yOffset = std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f);
+    // Centred upright by the line's height, rounded as the button has always been.
+    const float yOffset =
+        d_vertLabel == VertTextFormat::Centred
+            ? std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f)
+            : 0.0f;
     const float xOffset = std::trunc(area.getWidth() * getTextXOffset() + 0.5f);
     const Rectf textArea(area.left() + xOffset, area.top() + yOffset, area.right(), area.bottom());
-    drawText(*this, buffer, getRenderedString(), textArea, HorzTextFormat::Centred,
-             VertTextFormat::Top, ColourRect(withAlpha(textColour, alpha)), nullptr);
+    drawText(*this, buffer, getRenderedString(), textArea, d_horzLabel,
+             d_vertLabel == VertTextFormat::Centred ? VertTextFormat::Top : d_vertLabel,
+             ColourRect(withAlpha(textColour, alpha)), nullptr);
 }
 
 void MXButton::onSized(ElementEventArgs& e)
@@ -128,7 +209,6 @@ const Colour MXImageButton::DisabledImageColour(0x007F7F7F);
 MXImageButton::MXImageButton(const String& type, const String& name) : MXButton(type, name)
 {
     setStandardImageryEnabled(false);
-    applyFormatting();
     const String propertyOrigin(WidgetTypeName);
     const String colourHelp =
         " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
@@ -148,18 +228,6 @@ MXImageButton::MXImageButton(const String& type, const String& name) : MXButton(
                           "Property to get/set the image's colours while disabled." + colourHelp,
                           &MXImageButton::setDisabledImageColour,
                           &MXImageButton::getDisabledImageColour, d_disabledTint);
-    CEGUI_DEFINE_PROPERTY(MXImageButton, HorizontalFormatting, "HorzImageFormatting",
-                          "Property to get/set how the images are placed across: "
-                          "\"LeftAligned\", \"CentreAligned\", \"RightAligned\", "
-                          "\"Stretched\" or \"Tiled\".",
-                          &MXImageButton::setHorzImageFormatting,
-                          &MXImageButton::getHorzImageFormatting, HF_STRETCHED);
-    CEGUI_DEFINE_PROPERTY(MXImageButton, VerticalFormatting, "VertImageFormatting",
-                          "Property to get/set how the images are placed upright: "
-                          "\"TopAligned\", \"CentreAligned\", \"BottomAligned\", "
-                          "\"Stretched\" or \"Tiled\".",
-                          &MXImageButton::setVertImageFormatting,
-                          &MXImageButton::getVertImageFormatting, VF_STRETCHED);
 }
 
 void MXImageButton::setNormalImageColour(const ColourRect& colours)
@@ -184,38 +252,6 @@ void MXImageButton::setDisabledImageColour(const ColourRect& colours)
 {
     d_disabledTint = colours;
     invalidate();
-}
-
-void MXImageButton::setHorzImageFormatting(HorizontalFormatting formatting)
-{
-    d_horzFormatting = formatting;
-    applyFormatting();
-    invalidate();
-}
-
-void MXImageButton::setVertImageFormatting(VerticalFormatting formatting)
-{
-    d_vertFormatting = formatting;
-    applyFormatting();
-    invalidate();
-}
-
-void MXImageButton::applyFormatting()
-{
-    // CEGUI's formatting names, in the numbering the button's images know.
-    static constexpr FormattedImage::HorzFormatting across[] = {
-        FormattedImage::LeftAligned, FormattedImage::HorzCentred, FormattedImage::RightAligned,
-        FormattedImage::HorzStretched, FormattedImage::HorzTiled};
-    static constexpr FormattedImage::VertFormatting upright[] = {
-        FormattedImage::TopAligned, FormattedImage::VertCentred, FormattedImage::BottomAligned,
-        FormattedImage::VertStretched, FormattedImage::VertTiled};
-    const auto horz = across[std::min<std::size_t>(d_horzFormatting, std::size(across) - 1)];
-    const auto vert = upright[std::min<std::size_t>(d_vertFormatting, std::size(upright) - 1)];
-    for (FormattedImage* image : {&d_normalImage, &d_hoverImage, &d_pushedImage, &d_disabledImage})
-    {
-        image->setHorzFormatting(horz);
-        image->setVertFormatting(vert);
-    }
 }
 
 void MXImageButton::drawTinted(const Colour& primary, const Colour& secondary,

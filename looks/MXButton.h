@@ -5,10 +5,12 @@
 
 #include "draw/FramedFill.h"
 #include "draw/NinePieceFrame.h"
+#include "draw/TextDrawing.h"
 #include "looks/LookFactory.h"
 #include "widgets/PushButtonEx.h"
 
 #include <CEGUI/falagard/Enums.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -67,6 +69,25 @@ public:
     const NinePieceFrame& getHoverFrame() const { return d_hoverFrame; }
     const NinePieceFrame& getPushedFrame() const { return d_pushedFrame; }
 
+    //! The stock skins' "HorzImageFormatting" and "VertImageFormatting": once set, how every
+    //! state's custom image is placed, whenever it was given (stretched until then).
+    void setHorzImageFormatting(HorizontalFormatting formatting);
+    HorizontalFormatting getHorzImageFormatting() const
+    {
+        return d_horzImageFormatting.value_or(HF_STRETCHED);
+    }
+    void setVertImageFormatting(VerticalFormatting formatting);
+    VerticalFormatting getVertImageFormatting() const
+    {
+        return d_vertImageFormatting.value_or(VF_STRETCHED);
+    }
+    //! "HorzLabelFormatting" and "VertLabelFormatting": the label's place (centred both ways
+    //! by default), by CEGUI 0.8's names or the module's; reads back the name it was given.
+    void setHorzLabelFormatting(const String& name);
+    const String& getHorzLabelFormatting() const { return d_horzLabelName; }
+    void setVertLabelFormatting(const String& name);
+    const String& getVertLabelFormatting() const { return d_vertLabelName; }
+
 protected:
     void drawNormal() override;
     void drawHover() override;
@@ -87,14 +108,21 @@ protected:
     NinePieceFrame d_pushedFrame;
     EdgeInsets d_frameSizes; //!< left, top, right and bottom edge sizes
     const Image* d_background = nullptr;
+
+private:
+    std::optional<HorizontalFormatting> d_horzImageFormatting;
+    std::optional<VerticalFormatting> d_vertImageFormatting;
+    HorzTextFormat d_horzLabel = HorzTextFormat::Centred;
+    VertTextFormat d_vertLabel = VertTextFormat::Centred;
+    String d_horzLabelName = "CentreAligned";
+    String d_vertLabelName = "CentreAligned";
 };
 
 //! "MoxieLook/ImageButton": drawn from its state images alone ("NormalImage", "HoverImage",
 //! "PushedImage", "DisabledImage", stretched over the button, text over them). A state
 //! without an image shows the normal one; disabled, greyed.
 //! The stock skins' "NormalImageColour", "HoverImageColour", "PushedImageColour" and
-//! "DisabledImageColour" tint whatever image each state shows; "HorzImageFormatting" and
-//! "VertImageFormatting" place all four images.
+//! "DisabledImageColour" tint whatever image each state shows.
 class MXImageButton : public MXButton
 {
 public:
@@ -111,10 +139,6 @@ public:
     const ColourRect& getPushedImageColour() const { return d_pushedTint; }
     void setDisabledImageColour(const ColourRect& colours);
     const ColourRect& getDisabledImageColour() const { return d_disabledTint; }
-    void setHorzImageFormatting(HorizontalFormatting formatting);
-    HorizontalFormatting getHorzImageFormatting() const { return d_horzFormatting; }
-    void setVertImageFormatting(VerticalFormatting formatting);
-    VerticalFormatting getVertImageFormatting() const { return d_vertFormatting; }
 
 protected:
     void drawNormal() override;
@@ -126,14 +150,11 @@ private:
     //! Draws a state showing `image`, tinted `tint` for this draw only.
     void drawTinted(const Colour& primary, const Colour& secondary, const NinePieceFrame& frame,
                     FormattedImage& image, const ColourRect& tint, const Colour& textColour);
-    void applyFormatting();
 
     ColourRect d_normalTint{Colour(0xFFFFFFFF)};
     ColourRect d_hoverTint{Colour(0xFFFFFFFF)};
     ColourRect d_pushedTint{Colour(0xFFFFFFFF)};
     ColourRect d_disabledTint{Colour(0xFF000000 | DisabledImageColour.getARGB())};
-    HorizontalFormatting d_horzFormatting = HF_STRETCHED;
-    VerticalFormatting d_vertFormatting = VF_STRETCHED;
 };
 
 //! "MoxieLook/IconButton": the framed button with an icon centred at its own size

@@ -22,8 +22,6 @@ const std::map<std::string, std::vector<std::string>> StockProperties = {
 
 // Not taken yet.
 const std::map<std::string, std::set<std::string>> StillToCome = {
-    {"Button",
-     {"HorzImageFormatting", "HorzLabelFormatting", "VertImageFormatting", "VertLabelFormatting"}},
     {"ComboEditbox", {"TextFormatting"}},
     {"Editbox", {"TextFormatting"}},
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},

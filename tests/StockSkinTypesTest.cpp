@@ -840,8 +840,16 @@ TEST_F(StockSkinTypesTest, AnImageButtonTintsAndPlacesItsPicturesAsTheStockSkins
     EXPECT_EQ(placed.bottom(), 40);
     EXPECT_LT(placed.getWidth(), 80);
 
-    // Hovered with no hover picture: the normal one, in the hover tint.
+    // A picture given after the formatting takes it too.
+    button.setProperty("PushedImage", "MoxieLook/IconHeart");
     moxietest::pointerTo(50, 30);
+    moxietest::leftDown();
+    const Rectf pushed = find(drawnBy(button), "IconHeart")->rect;
+    moxietest::leftUp();
+    EXPECT_EQ(pushed.bottom(), 40);
+    EXPECT_LT(pushed.getWidth(), 80);
+
+    // Hovered with no hover picture: the normal one, in the hover tint.
     auto quads = drawnBy(button);
     EXPECT_EQ(quads[0].image, "IconStar");
     EXPECT_EQ(quads[0].rect, placed);
@@ -902,4 +910,33 @@ TEST_F(StockSkinTypesTest, ARadioButtonScalesItsPictureAndTheLabelFollows)
     EXPECT_EQ(radio.getProperty("RadioButtonRelativeWidth"), "0");
     const auto picture = find(drawnBy(radio), before[0].image);
     EXPECT_TRUE(!picture || picture->rect.getWidth() == 0);
+}
+
+TEST_F(StockSkinTypesTest, AButtonPlacesItsLabelByTheStockFormatting)
+{
+    Window& button = moxietest::place("MoxieLook/Button", 10, 10, 200, 60);
+    button.setText("Apply");
+    auto textSpan = [&button]
+    {
+        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
+        for (const DrawnQuad& quad : drawnBy(button))
+            if (quad.image == "text")
+            {
+                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
+                span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
+                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
+                span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
+            }
+        return span;
+    };
+    const Rectf centred = textSpan();
+    EXPECT_NEAR((centred.left() + centred.right()) / 2, 100, 2);
+    button.setProperty("HorzLabelFormatting", "LeftAligned");
+    button.setProperty("VertLabelFormatting", "BottomAligned");
+    const Rectf corner = textSpan();
+    EXPECT_LT(corner.left(), 3);
+    EXPECT_GT(corner.top(), centred.top());
+    EXPECT_EQ(button.getProperty("VertLabelFormatting"), "BottomAligned");
+    button.setProperty("VertLabelFormatting", "TopAligned");
+    EXPECT_LT(textSpan().top(), centred.top());
 }
