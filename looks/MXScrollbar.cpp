@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/FixedOrientationProperty.h"
 #include "looks/ScrollbarGeometry.h"
 #include "widgets/PushButtonEx.h"
 #include "widgets/WheelForwarding.h"
@@ -50,43 +51,6 @@ MXLargeVertScrollbar::MXLargeVertScrollbar(const String& type, const String& nam
 {
 }
 
-namespace
-{
-// The stock skins' "VerticalScrollbar": here each type has its own imagery, arrows and thumb
-// for one orientation, so the property reads that orientation and refuses the other.
-class OrientationProperty : public Property
-{
-public:
-    OrientationProperty()
-        : Property("VerticalScrollbar",
-                   "Property to get whether the bar is upright; fixed by its type. Value is "
-                   "either \"True\" or \"False\".",
-                   "", false, "bool", "MoxieLook/Scrollbar")
-    {
-    }
-
-    String get(const PropertyReceiver* receiver) const override
-    {
-        return PropertyHelper<bool>::toString(
-            static_cast<const MXScrollbarBase*>(receiver)->isVertical());
-    }
-
-    void set(PropertyReceiver* receiver, const String& value) override
-    {
-        const auto* bar = static_cast<const MXScrollbarBase*>(receiver);
-        if (PropertyHelper<bool>::fromString(value) != bar->isVertical())
-            throw InvalidRequestException("\"VerticalScrollbar\": '" + value + "' does not suit " +
-                                          bar->getType() +
-                                          ": its orientation is its type's; create the other "
-                                          "scroll bar type instead.");
-    }
-
-    bool isDefault(const PropertyReceiver*) const override { return true; }
-    String getDefault(const PropertyReceiver* receiver) const override { return get(receiver); }
-    Property* clone() const override { return new OrientationProperty(*this); }
-};
-} // namespace
-
 MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
                                  const Orientation& orientation)
     : RedrawnWhenUncovered<Scrollbar>(type, name), d_orientation(orientation)
@@ -98,7 +62,8 @@ MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
     setMouseCursor(&lookImage(MouseCursorImageName));
     storeFrameSizes();
     setWindowRenderer(MXScrollbarRenderer::TypeName);
-    static OrientationProperty orientationProperty;
+    static FixedOrientationProperty<MXScrollbarBase> orientationProperty(
+        "VerticalScrollbar", "MoxieLook/Scrollbar", &MXScrollbarBase::isVertical);
     addProperty(&orientationProperty);
 }
 

@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
+#include "looks/FixedOrientationProperty.h"
 #include "widgets/ButtonDrawState.h"
 #include "widgets/WheelForwarding.h"
 
@@ -30,6 +31,9 @@ MXSlider::MXSlider(const String& type, const String& name)
                           "Property to get/set whether the value grows from the right. Value is "
                           "either \"True\" or \"False\".",
                           &MXSlider::setReversedDirection, &MXSlider::isReversedDirection, false);
+    static FixedOrientationProperty<MXSlider> orientation("VerticalSlider", WidgetTypeName,
+                                                          &MXSlider::isVertical);
+    addProperty(&orientation);
 }
 
 void MXSlider::setReversedDirection(bool reversed)

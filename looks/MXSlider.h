@@ -47,6 +47,8 @@ public:
     };
     Ticks ticks() const;
 
+    //! The slider lies across; the stock skins' "VerticalSlider" reads so.
+    bool isVertical() const { return false; }
     //! The stock skins' "ReversedDirection": the value grows from the right.
     bool isReversedDirection() const { return d_reversed; }
     void setReversedDirection(bool reversed);

@@ -25,7 +25,6 @@ const std::map<std::string, std::set<std::string>> StillToCome = {
     {"ComboEditbox", {"TextFormatting"}},
     {"Editbox", {"TextFormatting"}},
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},
-    {"Slider", {"VerticalSlider"}},
 };
 } // namespace
 

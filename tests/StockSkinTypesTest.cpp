@@ -756,6 +756,11 @@ TEST_F(StockSkinTypesTest, ScrollbarsTellTheirOrientationAndRefuseTheOther)
     {
         EXPECT_NE(refusal.getMessage().find("MoxieLook/HorizontalScrollbar"), String::npos);
     }
+    // The slider likewise lies across for good.
+    Window& slider = moxietest::place("MoxieLook/Slider", 10, 300, 200, 30);
+    EXPECT_EQ(slider.getProperty("VerticalSlider"), "false");
+    slider.setProperty("VerticalSlider", "False");
+    EXPECT_THROW(slider.setProperty("VerticalSlider", "True"), InvalidRequestException);
     // The bar still works across: a click right of the thumb pages on.
     auto& bar = static_cast<Scrollbar&>(across);
     bar.setDocumentSize(1000);
