@@ -5,6 +5,7 @@
 #include <CEGUI/Image.h>
 #include <CEGUI/Window.h>
 #include <algorithm>
+#include <cmath>
 
 namespace CEGUI
 {
@@ -94,11 +95,14 @@ ColourRect EditboxImagery::selectionTint(bool focused, float alpha) const
 }
 
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
-                         float extentToCaret)
+                         float extentToCaret, HorzTextFormat alignment)
 {
-    // A text that fits starts at the left: nothing is scrolled away then.
-    if (textExtent + caretWidth <= areaWidth)
-        return 0.0f;
+    // A text that fits is placed by the alignment: nothing is scrolled away then.
+    const float room = areaWidth - textExtent - caretWidth;
+    if (room >= 0)
+        return alignment == HorzTextFormat::Right     ? room
+               : alignment == HorzTextFormat::Centred ? std::floor(room * 0.5f)
+                                                      : 0.0f;
     float offset = lastOffset;
     if (offset + extentToCaret < 0)
         offset = -extentToCaret;

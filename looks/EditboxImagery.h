@@ -6,6 +6,7 @@
 #pragma once
 
 #include "draw/NinePieceFrame.h"
+#include "draw/TextDrawing.h"
 
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Property.h>
@@ -77,10 +78,11 @@ private:
 };
 
 //! Where the text of a one-line box starts, from the text area's left: a text that fits
-//! starts at the left; a longer one keeps the caret in view, leaves no blank room after its
-//! end, and otherwise keeps the last offset, so that it does not jump while typing.
+//! starts at the left (at the right, or in the middle, when `alignment` says so); a longer
+//! one keeps the caret in view, leaves no blank room after its end, and otherwise keeps the
+//! last offset, so that it does not jump while typing.
 float scrolledTextOffset(float lastOffset, float areaWidth, float textExtent, float caretWidth,
-                         float extentToCaret);
+                         float extentToCaret, HorzTextFormat alignment = HorzTextFormat::Left);
 
 //! One of the stock skins' edit box colours on a look that has `imagery()`.
 template <typename Owner>

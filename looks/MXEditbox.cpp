@@ -20,6 +20,27 @@ MXEditbox::MXEditbox(const String& type, const String& name) : EditboxEx(type, n
     setWindowRenderer(MXEditboxRenderer::TypeName);
     addEditboxColourProperties(*this);
     addCaretBlinkProperties(*this, CaretBlinkTime);
+    const String propertyOrigin(WidgetTypeName);
+    CEGUI_DEFINE_PROPERTY(MXEditbox, String, "TextFormatting",
+                          "Property to get/set where a text that fits stands: \"LeftAligned\", "
+                          "\"RightAligned\" or \"CentreAligned\".",
+                          &MXEditbox::setTextFormatting, &MXEditbox::getTextFormatting,
+                          "LeftAligned");
+}
+
+void MXEditbox::setTextFormatting(const String& name)
+{
+    const HorzTextFormat alignment = horzTextFormatFromName(name);
+    // Unknown names read as the left: only the left's own name is taken for it.
+    const bool oneLine = alignment == HorzTextFormat::Right ||
+                         alignment == HorzTextFormat::Centred || name == "LeftAligned";
+    if (!oneLine)
+        throw InvalidRequestException("\"TextFormatting\": '" + name +
+                                      "' is no one-line formatting; an edit box takes "
+                                      "LeftAligned, RightAligned or CentreAligned.");
+    d_alignment = alignment;
+    d_alignmentName = name;
+    invalidate();
 }
 
 Rectf MXEditbox::textArea() const
@@ -84,7 +105,7 @@ void MXEditbox::populateGeometryBuffer()
     const float toCaret = font->getTextAdvance(text.substr(0, caret));
     const float caretWidth = d_imagery.caret().getRenderedSize().d_width;
     d_textOffset = scrolledTextOffset(d_textOffset, area.getWidth(), font->getTextExtent(text),
-                                      caretWidth, toCaret);
+                                      caretWidth, toCaret, d_alignment);
     const float left = area.left() + d_textOffset;
 
     const std::size_t selStart = std::min(getSelectionStartIndex(), text.length());

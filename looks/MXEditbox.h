@@ -46,6 +46,10 @@ public:
     bool isBlinkCaret() const { return d_blink.enabled; }
     void setBlinkCaretTimeout(float seconds);
     float getBlinkCaretTimeout() const { return d_blink.period; }
+    //! CEGUI's core renderer's "TextFormatting": where a text that fits stands
+    //! ("LeftAligned", "RightAligned" or "CentreAligned"; others are refused, as there).
+    void setTextFormatting(const String& name);
+    const String& getTextFormatting() const { return d_alignmentName; }
 
 protected:
     void onCaretMoved(WindowEventArgs& e) override;
@@ -59,6 +63,8 @@ private:
 
     float d_textOffset = 0.0f;
     CaretBlink d_blink;
+    HorzTextFormat d_alignment = HorzTextFormat::Left;
+    String d_alignmentName = "LeftAligned";
 };
 
 //! "MoxieLook/ComboEditbox": the combo box's edit part as a type of its own, the edit

@@ -22,8 +22,6 @@ const std::map<std::string, std::vector<std::string>> StockProperties = {
 
 // Not taken yet.
 const std::map<std::string, std::set<std::string>> StillToCome = {
-    {"ComboEditbox", {"TextFormatting"}},
-    {"Editbox", {"TextFormatting"}},
     {"GroupBox", {"BackgroundTextColours", "TextBackground"}},
 };
 } // namespace

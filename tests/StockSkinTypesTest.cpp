@@ -945,3 +945,41 @@ TEST_F(StockSkinTypesTest, AButtonPlacesItsLabelByTheStockFormatting)
     button.setProperty("VertLabelFormatting", "TopAligned");
     EXPECT_LT(textSpan().top(), centred.top());
 }
+
+TEST_F(StockSkinTypesTest, AnEditBoxStandsItsTextWhereTheStockFormattingSays)
+{
+    auto& box = static_cast<MXEditbox&>(moxietest::place("MoxieLook/Editbox", 10, 10, 240, 30));
+    box.setText("42");
+    box.setProperty("TextFormatting", "RightAligned");
+    auto lastGlyphRight = [&box]
+    {
+        float right = 0;
+        for (const DrawnQuad& quad : drawnBy(box))
+            if (quad.image == "text")
+                right = std::max(right, quad.rect.right());
+        return right;
+    };
+    const Rectf area = box.textArea();
+    EXPECT_GT(lastGlyphRight(), area.right() - 12);
+
+    // Clicks go by where the text stands: left of it, before it; at its end, after it.
+    moxietest::click(10 + area.left() + 5, 25);
+    EXPECT_EQ(box.getCaretIndex(), 0u);
+    moxietest::click(10 + area.right() - 1, 25);
+    EXPECT_EQ(box.getCaretIndex(), 2u);
+
+    box.setProperty("TextFormatting", "CentreAligned");
+    EXPECT_EQ(box.getProperty("TextFormatting"), "CentreAligned");
+    const float centredRight = lastGlyphRight();
+    EXPECT_LT(centredRight, area.right() - 40);
+    EXPECT_GT(centredRight, area.left() + area.getWidth() / 2);
+    EXPECT_THROW(box.setProperty("TextFormatting", "WordWrapLeftAligned"), InvalidRequestException);
+    EXPECT_THROW(box.setProperty("TextFormatting", "Sideways"), InvalidRequestException);
+    EXPECT_EQ(box.getProperty("TextFormatting"), "CentreAligned");
+
+    // A text longer than the box scrolls as ever, the caret in view.
+    box.setText(String(80, 'w'));
+    box.setCaretIndex(80);
+    EXPECT_LE(lastGlyphRight(), area.right() + 0.5f);
+    EXPECT_LT(box.textOffset(), 0);
+}
