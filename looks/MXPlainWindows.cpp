@@ -294,6 +294,18 @@ MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(
                           "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXGroupBox::setDisabledTextColour, &MXGroupBox::getDisabledTextColour,
                           ColourRect(MXLabel::DefaultDisabledTextColour));
+    // The stock skins define both names; one backdrop serves them.
+    static const String backdropHelp =
+        "Property to get/set the colours of a backdrop behind the caption; none until set. "
+        "Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static TplWindowProperty<MXGroupBox, ColourRect> backgroundText(
+        "BackgroundTextColours", backdropHelp, WidgetTypeName, &MXGroupBox::setCaptionBackdrop,
+        &MXGroupBox::getCaptionBackdrop, ColourRect(Colour(0x00000000)));
+    static TplWindowProperty<MXGroupBox, ColourRect> textBackground(
+        "TextBackground", backdropHelp, WidgetTypeName, &MXGroupBox::setCaptionBackdrop,
+        &MXGroupBox::getCaptionBackdrop, ColourRect(Colour(0x00000000)));
+    addProperty(&backgroundText);
+    addProperty(&textBackground);
 }
 
 void MXGroupBox::setDisabledTextColour(const ColourRect& colours)
@@ -350,9 +362,18 @@ void MXGroupBox::populateGeometryBuffer()
     const float alpha = getEffectiveAlpha();
     const Rectf text(caption.left() + CaptionPadding, caption.top(),
                      caption.right() - CaptionPadding, caption.bottom());
+    // A host's backdrop behind the caption, over whatever the frame drew there.
+    auto backdrop = [&]
+    {
+        if (d_captionBackdrop)
+            d_background->render(buffer, caption, nullptr, faded(*d_captionBackdrop, alpha));
+    };
     if (!isFrameEnabled())
+    {
+        backdrop();
         return drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred,
                               captionColours());
+    }
     // The frame's top edge breaks where the caption stands, whatever lies behind the box.
     const Rectf area = frameArea();
     if (isBackgroundEnabled())
@@ -366,7 +387,19 @@ void MXGroupBox::populateGeometryBuffer()
                               Rectf(caption.right(), 0, size.d_width, size.d_height),
                               Rectf(caption.left(), edgeBottom, caption.right(), size.d_height)})
         d_frame.draw(buffer, area.d_min, &clip);
+    backdrop();
     drawWindowText(*this, text, HorzTextFormat::Left, VertTextFormat::Centred, captionColours());
+}
+
+void MXGroupBox::setCaptionBackdrop(const ColourRect& colours)
+{
+    d_captionBackdrop = colours;
+    invalidate();
+}
+
+ColourRect MXGroupBox::getCaptionBackdrop() const
+{
+    return d_captionBackdrop.value_or(ColourRect(Colour(0x00000000)));
 }
 
 // --- The tab control's panes ----------------------------------------------------------------

@@ -15,6 +15,7 @@
 #include "looks/LookFactory.h"
 
 #include <CEGUI/widgets/DefaultWindow.h>
+#include <optional>
 
 namespace CEGUI
 {
@@ -138,6 +139,10 @@ public:
     const ColourRect& getNormalTextColour() const { return d_captionColour; }
     void setDisabledTextColour(const ColourRect& colours);
     const ColourRect& getDisabledTextColour() const { return d_disabledCaptionColour; }
+    //! The stock skins' "BackgroundTextColours" (also "TextBackground"): a backdrop behind
+    //! the caption in these colours; none until set.
+    void setCaptionBackdrop(const ColourRect& colours);
+    ColourRect getCaptionBackdrop() const;
 
 protected:
     void populateGeometryBuffer() override;
@@ -152,6 +157,7 @@ private:
 
     ColourRect d_captionColour{DefaultCaptionColour};
     ColourRect d_disabledCaptionColour{MXLabel::DefaultDisabledTextColour};
+    std::optional<ColourRect> d_captionBackdrop;
 };
 
 class MXTabContentPane : public RedrawnWhenUncovered<DefaultWindow>

@@ -7,11 +7,6 @@ root = pathlib.Path(__file__).resolve().parent.parent
 inc = (root / "tests/StockProperties.inc").read_text()
 stock = {m.group(1): re.findall(r'"([A-Za-z]+)"', m.group(2))
          for m in re.finditer(r'\{"([A-Za-z]+)", \{([^}]*)\}\}', inc)}
-test = (root / "tests/StockPropertiesTest.cpp").read_text()
-start = test.index("StillToCome = {")
-block = test[start:test.index("\n};", start)]
-pending = {m.group(1): set(re.findall(r'"([A-Za-z]+)"', m.group(2)))
-           for m in re.finditer(r'\{"([A-Za-z]+)",\s*\{([^}]*)\}\}', block)}
 
 NOTES = {
     "NormalTextColour": "the text colour while enabled",
@@ -52,23 +47,58 @@ NOTES = {
     "VerticalProgress": "the bar runs upwards",
     "ReversedProgress": "the bar runs from the other end",
     "TabButtonType": "the type of the tabs it makes",
+    "VerticalScrollbar": "reads the type's orientation; the other is refused, naming the type",
+    "VerticalSlider": "reads the type's orientation (across); upright is refused",
+    "HorzImageFormatting": "places the custom pictures across (applied when drawn)",
+    "VertImageFormatting": "places the custom pictures upright (applied when drawn)",
+    "HorzLabelFormatting": "places the label across",
+    "VertLabelFormatting": "places the label upright",
+    "TextFormatting": "where a text that fits stands: left, right or centred",
+    "EnableTop": "draws the top edge (set by CEGUI's tab control for its tabs' side)",
+    "EnableBottom": "draws the bottom edge (set by CEGUI's tab control for its tabs' side)",
+    "CaptionColour": "the title's colours",
+    "ClientAreaColour": "tints the client area",
+    "BorderWidth": "pixels between the frame and the items",
+    "TextPadding": "pixels between the frame and the text",
+    "TextColour": "the text's colours",
+    "SelectionColour": "tints the selection brush",
+    "SelectionBrush": "the image under a selected item",
+    "HoverColour": "tints the band under the pointer",
+    "PushedColour": "tints the band while held",
+    "PushedOffColour": "tints the band while held with the pointer off",
+    "OpenedColour": "tints the band while its menu is open",
+    "EnabledColour": "tints the fill",
+    "DisabledColour": "tints the fill while disabled",
+    "ReversedDirection": "the value grows from the right",
+    "RadioButtonRelativeWidth": "the picture's width as a multiple of its own",
+    "RadioButtonRelativeHeight": "the picture's height as a multiple of its own",
+    "NormalImageColour": "tints the picture at rest",
+    "HoverImageColour": "tints the picture under the pointer",
+    "PushedImageColour": "tints the picture while pressed",
+    "DisabledImageColour": "tints the picture while disabled",
+    "NormalEditTextColour": "the edit area's \"NormalTextColour\"",
+    "SelectedEditTextColour": "the edit area's \"SelectedTextColour\"",
+    "ActiveEditSelectionColour": "the edit area's \"ActiveSelectionColour\"",
+    "InactiveEditSelectionColour": "the edit area's \"InactiveSelectionColour\"",
+    "DropDownButtonNormalImage": "the button's \"NormalImage\"",
+    "DropDownButtonHoverImage": "the button's \"HoverImage\"",
+    "DropDownButtonPushedImage": "the button's \"PushedImage\"",
+    "BackgroundTextColours": "a backdrop behind the caption; none until set",
+    "TextBackground": "the same backdrop as \"BackgroundTextColours\"",
 }
 
 lines = [
     "# The stock skins' properties in MoxieLook", "",
     "For each MoxieLook type of a stock skin's name: every property the stock skins' looks",
     "define for it (TaharezLook, WindowsLook, VanillaSkin) and those of CEGUI's core renderer for",
-    "its class, and what MoxieLook does with it; \"still to come\" marks the ones not taken yet.",
-    "The test `StockProperties.EveryTypeTakesTheStockSkinsPropertiesButThoseStillToCome` holds",
-    "this table to the code; `scripts/stock-properties-doc.py` writes it from the test's lists.",
+    "its class, and what MoxieLook does with it. The test",
+    "`StockProperties.EveryTypeTakesEveryStockSkinProperty` holds this table to the code;",
+    "`scripts/stock-properties-doc.py` writes it from the test's list.",
     "Properties of CEGUI's widget classes themselves (text, selection, \"ReadOnly\", ...) are",
     "taken by every type and not listed.", "",
     "| Type | Property | In MoxieLook |", "|---|---|---|"]
 for kind in sorted(stock):
     for prop in stock[kind]:
-        if prop in pending.get(kind, set()):
-            status = "still to come"
-        else:
-            status = "taken: " + NOTES.get(prop, "drawn as the stock skin does")
+        status = "taken: " + NOTES.get(prop, "drawn as the stock skin does")
         lines.append(f'| {kind} | "{prop}" | {status} |')
 (root / "docs/stock-properties.md").write_text("\n".join(lines) + "\n")

@@ -659,6 +659,25 @@ TEST_F(StockSkinTypesTest, ItemTabTreeAndGroupColoursFromStockLayoutsReachTheDra
     EXPECT_NE(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
     box.disable();
     EXPECT_EQ(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
+    // No backdrop behind the caption until a layout asks for one; then it lies under the text.
+    auto fills = [&box]
+    {
+        std::vector<DrawnQuad> found;
+        for (const DrawnQuad& quad : drawnBy(box))
+            if (quad.image == "StaticFrameFill")
+                found.push_back(quad);
+        return found;
+    };
+    EXPECT_TRUE(fills().empty()); // a group box has no background of its own
+    box.setProperty("TextBackground", "FF203040");
+    ASSERT_EQ(fills().size(), 1u);
+    const Rectf caption = static_cast<MXGroupBox&>(box).captionArea();
+    EXPECT_EQ(fills()[0].rect.left(), caption.left());
+    EXPECT_EQ(fills()[0].rect.right(), caption.right());
+    EXPECT_NEAR(fills()[0].rect.bottom(), caption.bottom(), 0.5f); // pixel-aligned
+    EXPECT_EQ(argb(fills()[0].colours.d_top_left), 0xFF203040u);
+    EXPECT_EQ(box.getProperty("BackgroundTextColours"), box.getProperty("TextBackground"));
+    EXPECT_EQ(moxietest::imageNames(drawnBy(box)).back(), "text");
 }
 
 TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
