@@ -43,6 +43,23 @@ String nameOf(HorzTextFormat format);
 VertTextFormat vertTextFormatFromName(const String& name);
 String nameOf(VertTextFormat format);
 
+//! A formatting as a property holds it: the value, and the name it was given by, which is
+//! what it reads back.
+template <typename Format, Format (*FromName)(const String&)>
+struct NamedFormat
+{
+    Format value;
+    String name;
+
+    void set(const String& newName)
+    {
+        value = FromName(newName);
+        name = newName;
+    }
+};
+using NamedHorzFormat = NamedFormat<HorzTextFormat, horzTextFormatFromName>;
+using NamedVertFormat = NamedFormat<VertTextFormat, vertTextFormatFromName>;
+
 //! Draws `text` (already parsed, with its fonts) into `area`. The colours modulate those
 //! of the text itself, which are white unless the text carries its own markup.
 //! Returns the height the formatted text takes.

@@ -88,15 +88,13 @@ void MXButton::setVertImageFormatting(VerticalFormatting formatting)
 
 void MXButton::setHorzLabelFormatting(const String& name)
 {
-    d_horzLabel = horzTextFormatFromName(name);
-    d_horzLabelName = name;
+    d_horzLabel.set(name);
     invalidate();
 }
 
 void MXButton::setVertLabelFormatting(const String& name)
 {
-    d_vertLabel = vertTextFormatFromName(name);
-    d_vertLabelName = name;
+    d_vertLabel.set(name);
     invalidate();
 }
 
@@ -181,13 +179,13 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
         return;
     // Centred upright by the line's height, rounded as the button has always been.
     const float yOffset =
-        d_vertLabel == VertTextFormat::Centred
+        d_vertLabel.value == VertTextFormat::Centred
             ? std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f)
             : 0.0f;
     const float xOffset = std::trunc(area.getWidth() * getTextXOffset() + 0.5f);
     const Rectf textArea(area.left() + xOffset, area.top() + yOffset, area.right(), area.bottom());
-    drawText(*this, buffer, getRenderedString(), textArea, d_horzLabel,
-             d_vertLabel == VertTextFormat::Centred ? VertTextFormat::Top : d_vertLabel,
+    drawText(*this, buffer, getRenderedString(), textArea, d_horzLabel.value,
+             d_vertLabel.value == VertTextFormat::Centred ? VertTextFormat::Top : d_vertLabel.value,
              ColourRect(withAlpha(textColour, alpha)), nullptr);
 }
 

@@ -84,9 +84,9 @@ public:
     //! "HorzLabelFormatting" and "VertLabelFormatting": the label's place (centred both ways
     //! by default), by CEGUI 0.8's names or the module's; reads back the name it was given.
     void setHorzLabelFormatting(const String& name);
-    const String& getHorzLabelFormatting() const { return d_horzLabelName; }
+    const String& getHorzLabelFormatting() const { return d_horzLabel.name; }
     void setVertLabelFormatting(const String& name);
-    const String& getVertLabelFormatting() const { return d_vertLabelName; }
+    const String& getVertLabelFormatting() const { return d_vertLabel.name; }
 
 protected:
     void drawNormal() override;
@@ -112,10 +112,8 @@ protected:
 private:
     std::optional<HorizontalFormatting> d_horzImageFormatting;
     std::optional<VerticalFormatting> d_vertImageFormatting;
-    HorzTextFormat d_horzLabel = HorzTextFormat::Centred;
-    VertTextFormat d_vertLabel = VertTextFormat::Centred;
-    String d_horzLabelName = "CentreAligned";
-    String d_vertLabelName = "CentreAligned";
+    NamedHorzFormat d_horzLabel{HorzTextFormat::Centred, "CentreAligned"};
+    NamedVertFormat d_vertLabel{VertTextFormat::Centred, "CentreAligned"};
 };
 
 //! "MoxieLook/ImageButton": drawn from its state images alone ("NormalImage", "HoverImage",

@@ -81,15 +81,13 @@ void MXLabel::setDisabledTextColour(const ColourRect& colours)
 
 void MXLabel::setHorzFormatting(const String& name)
 {
-    d_horz = horzTextFormatFromName(name);
-    d_horzName = name;
+    d_horz.set(name);
     invalidate();
 }
 
 void MXLabel::setVertFormatting(const String& name)
 {
-    d_vert = vertTextFormatFromName(name);
-    d_vertName = name;
+    d_vert.set(name);
     invalidate();
 }
 
@@ -103,7 +101,7 @@ void MXLabel::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;
-    drawWindowText(*this, Rectf(Vector2f(0, 0), getPixelSize()), d_horz, d_vert,
+    drawWindowText(*this, Rectf(Vector2f(0, 0), getPixelSize()), d_horz.value, d_vert.value,
                    isEffectiveDisabled() ? d_disabledText : d_normalText);
 }
 
@@ -234,15 +232,13 @@ MXStaticFrame::MXStaticFrame(const String& type, const String& name) : MXFramedW
 
 void MXStaticFrame::setHorzFormatting(const String& name)
 {
-    d_horz = horzTextFormatFromName(name);
-    d_horzName = name;
+    d_horz.set(name);
     invalidate();
 }
 
 void MXStaticFrame::setVertFormatting(const String& name)
 {
-    d_vert = vertTextFormatFromName(name);
-    d_vertName = name;
+    d_vert.set(name);
     invalidate();
 }
 
@@ -268,7 +264,7 @@ void MXStaticFrame::populateGeometryBuffer()
 {
     MXFramedWindow::populateGeometryBuffer();
     if (hasVisibleArea(*this))
-        drawWindowText(*this, textArea(), d_horz, d_vert,
+        drawWindowText(*this, textArea(), d_horz.value, d_vert.value,
                        ColourRect(isEffectiveDisabled() ? MXLabel::DefaultDisabledTextColour
                                                         : MXLabel::DefaultNormalTextColour));
 }

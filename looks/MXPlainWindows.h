@@ -37,9 +37,9 @@ public:
     const ColourRect& getDisabledTextColour() const { return d_disabledText; }
     //! Formatting by CEGUI 0.8's names or the module's; reads back the name it was given.
     void setHorzFormatting(const String& name);
-    const String& getHorzFormatting() const { return d_horzName; }
+    const String& getHorzFormatting() const { return d_horz.name; }
     void setVertFormatting(const String& name);
-    const String& getVertFormatting() const { return d_vertName; }
+    const String& getVertFormatting() const { return d_vert.name; }
 
 protected:
     void populateGeometryBuffer() override;
@@ -48,10 +48,8 @@ protected:
 private:
     ColourRect d_normalText{DefaultNormalTextColour};
     ColourRect d_disabledText{DefaultDisabledTextColour};
-    HorzTextFormat d_horz = HorzTextFormat::Centred;
-    VertTextFormat d_vert = VertTextFormat::Centred;
-    String d_horzName = "CentreAligned";
-    String d_vertName = "CentreAligned";
+    NamedHorzFormat d_horz{HorzTextFormat::Centred, "CentreAligned"};
+    NamedVertFormat d_vert{VertTextFormat::Centred, "CentreAligned"};
 };
 
 //! The framed background "MoxieLook/Static" and "MoxieLook/GroupBox" share.
@@ -99,9 +97,9 @@ public:
     MXStaticFrame(const String& type, const String& name);
 
     void setHorzFormatting(const String& name);
-    const String& getHorzFormatting() const { return d_horzName; }
+    const String& getHorzFormatting() const { return d_horz.name; }
     void setVertFormatting(const String& name);
-    const String& getVertFormatting() const { return d_vertName; }
+    const String& getVertFormatting() const { return d_vert.name; }
     void setTextPadding(float pixels);
     float getTextPadding() const { return d_textPadding; }
     //! Window-local: inside the frame (if shown), less the padding.
@@ -112,10 +110,8 @@ protected:
     void onTextChanged(WindowEventArgs& e) override;
 
 private:
-    HorzTextFormat d_horz = HorzTextFormat::Left;
-    VertTextFormat d_vert = VertTextFormat::Centred;
-    String d_horzName = "LeftAligned";
-    String d_vertName = "CentreAligned";
+    NamedHorzFormat d_horz{HorzTextFormat::Left, "LeftAligned"};
+    NamedVertFormat d_vert{VertTextFormat::Centred, "CentreAligned"};
     float d_textPadding = 0.0f;
 };
 

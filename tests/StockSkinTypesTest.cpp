@@ -56,6 +56,20 @@ std::optional<DrawnQuad> find(const std::vector<DrawnQuad>& quads, const std::st
                                  [&](const DrawnQuad& quad) { return quad.image == image; });
     return it == quads.end() ? std::nullopt : std::optional<DrawnQuad>(*it);
 }
+// The rectangle around every quad whose image name starts with `prefix` ("text": the glyphs).
+Rectf spanOf(const std::vector<DrawnQuad>& quads, const std::string& prefix)
+{
+    Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
+    for (const DrawnQuad& quad : quads)
+        if (quad.image.rfind(prefix, 0) == 0)
+        {
+            span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
+            span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
+            span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
+            span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
+        }
+    return span;
+}
 } // namespace
 
 TEST_F(StockSkinTypesTest, LabelsAreDefaultWindowsTakingTheStockFormattingNames)
@@ -727,19 +741,7 @@ TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsToldInItsTint)
     auto& bar =
         static_cast<MXProgressBar&>(moxietest::place("MoxieLook/ProgressBar", 10, 10, 200, 40));
     bar.setProgress(0.6f);
-    auto litSpan = [&bar]
-    {
-        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
-        for (const DrawnQuad& quad : drawnBy(bar))
-            if (quad.image.rfind("ProgressBarLit", 0) == 0)
-            {
-                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
-                span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
-                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
-                span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
-            }
-        return span;
-    };
+    auto litSpan = [&bar] { return spanOf(drawnBy(bar), "ProgressBarLit"); };
     bar.setProperty("ReversedProgress", "True");
     EXPECT_EQ(litSpan(), Rectf(80, 0, 200, 40));
     bar.setProperty("VerticalProgress", "True");
@@ -820,17 +822,7 @@ TEST_F(StockSkinTypesTest, AStaticPlacesItsTextInsideTheFrameByTheStockFormattin
         static_cast<MXStaticFrame&>(moxietest::place("MoxieLook/Static", 10, 10, 200, 60));
     frame.setText("Ready");
     const Rectf inside = frame.textArea();
-    auto textSpan = [&frame]
-    {
-        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
-        for (const DrawnQuad& quad : drawnBy(frame))
-            if (quad.image == "text")
-            {
-                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
-                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
-            }
-        return span;
-    };
+    auto textSpan = [&frame] { return spanOf(drawnBy(frame), "text"); };
     // Left-aligned from the frame's inner edge by default, the text after the frame.
     EXPECT_NEAR(textSpan().left(), inside.left(), 1.5f);
     EXPECT_EQ(drawnBy(frame).back().image, "text");
@@ -940,19 +932,7 @@ TEST_F(StockSkinTypesTest, AButtonPlacesItsLabelByTheStockFormatting)
 {
     Window& button = moxietest::place("MoxieLook/Button", 10, 10, 200, 60);
     button.setText("Apply");
-    auto textSpan = [&button]
-    {
-        Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
-        for (const DrawnQuad& quad : drawnBy(button))
-            if (quad.image == "text")
-            {
-                span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
-                span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
-                span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
-                span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
-            }
-        return span;
-    };
+    auto textSpan = [&button] { return spanOf(drawnBy(button), "text"); };
     const Rectf centred = textSpan();
     EXPECT_NEAR((centred.left() + centred.right()) / 2, 100, 2);
     button.setProperty("HorzLabelFormatting", "LeftAligned");
