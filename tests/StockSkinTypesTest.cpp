@@ -982,3 +982,33 @@ TEST_F(StockSkinTypesTest, AnEditBoxStandsItsTextWhereTheStockFormattingSays)
     EXPECT_LE(lastGlyphRight(), area.right() + 0.5f);
     EXPECT_LT(box.textOffset(), 0);
 }
+
+TEST_F(StockSkinTypesTest, AStaticImageTakesCeguisFormattingNames)
+{
+    Window& holder = moxietest::place("MoxieLook/StaticImage", 10, 10, 200, 100);
+    holder.setProperty("Image", "MoxieLook/IconStar");
+    holder.setProperty("HorzFormatting", "CentreAligned");
+    holder.setProperty("VertFormatting", "CentreAligned");
+    EXPECT_EQ(holder.getProperty("HorzFormatting"), "CentreAligned");
+    auto stars = [&holder]
+    {
+        std::vector<Rectf> rects;
+        for (const DrawnQuad& quad : drawnBy(holder))
+            if (quad.image == "IconStar")
+                rects.push_back(quad.rect);
+        return rects;
+    };
+    ASSERT_EQ(stars().size(), 1u);
+    const Rectf centred = stars()[0];
+    EXPECT_NEAR(centred.left() + centred.right(), 200, 1.0f);
+    EXPECT_NEAR(centred.top() + centred.bottom(), 100, 1.0f);
+    EXPECT_LT(centred.getWidth(), 200);
+
+    holder.setProperty("HorzFormatting", "Tiled");
+    EXPECT_GT(stars().size(), 1u);
+    holder.setProperty("HorzFormatting", "Stretched");
+    holder.setProperty("VertFormatting", "Stretched");
+    EXPECT_EQ(stars().size(), 1u);
+    EXPECT_EQ(stars()[0].getWidth(), 200);
+    EXPECT_EQ(holder.getProperty("VertFormatting"), "Stretched");
+}

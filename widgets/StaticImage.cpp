@@ -32,13 +32,13 @@ StaticImage::StaticImage(const String& type, const String& name) : Static(type, 
     CEGUI_DEFINE_PROPERTY(StaticImage, String, "HorzFormatting",
                           "Property to get/set the horizontal formatting of the image. Value is "
                           "one of LeftAligned, RightAligned, HorzStretched, HorzCentred, "
-                          "HorzTiled.",
+                          "HorzTiled, or CEGUI 0.8's CentreAligned, Stretched, Tiled.",
                           &StaticImage::setHorzFormattingName, &StaticImage::getHorzFormattingName,
                           "HorzStretched");
     CEGUI_DEFINE_PROPERTY(StaticImage, String, "VertFormatting",
                           "Property to get/set the vertical formatting of the image. Value is "
                           "one of TopAligned, BottomAligned, VertStretched, VertCentred, "
-                          "VertTiled.",
+                          "VertTiled, or CEGUI 0.8's CentreAligned, Stretched, Tiled.",
                           &StaticImage::setVertFormattingName, &StaticImage::getVertFormattingName,
                           "VertStretched");
 }
@@ -68,6 +68,11 @@ FormattedImage::HorzFormatting StaticImage::horzFormattingFromName(const String&
     for (int i = 0; i < 5; ++i)
         if (name == HorzNames[i])
             return static_cast<FormattedImage::HorzFormatting>(i);
+    // CEGUI 0.8's names, as layouts written for its skins hold them.
+    if (name == "CentreAligned")
+        return FormattedImage::HorzCentred;
+    if (name == "Tiled")
+        return FormattedImage::HorzTiled;
     return FormattedImage::HorzStretched;
 }
 
@@ -76,27 +81,38 @@ FormattedImage::VertFormatting StaticImage::vertFormattingFromName(const String&
     for (int i = 0; i < 5; ++i)
         if (name == VertNames[i])
             return static_cast<FormattedImage::VertFormatting>(i);
+    if (name == "CentreAligned")
+        return FormattedImage::VertCentred;
+    if (name == "Tiled")
+        return FormattedImage::VertTiled;
     return FormattedImage::VertStretched;
 }
 
 void StaticImage::setHorzFormattingName(const String& name)
 {
     setFormatting(horzFormattingFromName(name), getVertFormatting());
+    d_horzName = name;
 }
 
+// The name it was given, while the formatting is still that name's.
 String StaticImage::getHorzFormattingName() const
 {
-    return HorzNames[getHorzFormatting()];
+    return !d_horzName.empty() && horzFormattingFromName(d_horzName) == getHorzFormatting()
+               ? d_horzName
+               : String(HorzNames[getHorzFormatting()]);
 }
 
 void StaticImage::setVertFormattingName(const String& name)
 {
     setFormatting(getHorzFormatting(), vertFormattingFromName(name));
+    d_vertName = name;
 }
 
 String StaticImage::getVertFormattingName() const
 {
-    return VertNames[getVertFormatting()];
+    return !d_vertName.empty() && vertFormattingFromName(d_vertName) == getVertFormatting()
+               ? d_vertName
+               : String(VertNames[getVertFormatting()]);
 }
 
 void StaticImage::drawContent(GeometryBuffer& buffer, const Rectf& inner)

@@ -32,6 +32,8 @@ protected:
     void drawContent(GeometryBuffer& buffer, const Rectf& inner) override;
 
 private:
+    String d_horzName; //!< as given by name, read back while it holds
+    String d_vertName;
     void setHorzFormattingName(const String& name);
     String getHorzFormattingName() const;
     void setVertFormattingName(const String& name);
