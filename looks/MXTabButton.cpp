@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "draw/TextDrawing.h"
+#include "widgets/CornerColourProperty.h"
 
 #include <CEGUI/Font.h>
 #include <cmath>
@@ -56,32 +57,36 @@ MXTabButton::MXTabButton(const String& type, const String& name)
     setMouseCursor(&lookImage(MouseCursorImageName));
 
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "NormalTextColour",
-                          "Property to get/set the label colour of a tab at rest. Value is "
-                          "\"aarrggbb\".",
-                          &MXTabButton::setNormalTextColour, &MXTabButton::getNormalTextColour,
-                          Colour(EnabledTextLabelColour));
-    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "PushedTextColour",
-                          "Property to get/set the label colour of a selected, pressed or hovered "
-                          "tab. "
-                          "Value is \"aarrggbb\".",
-                          &MXTabButton::setPushedTextColour, &MXTabButton::getPushedTextColour,
-                          Colour(EnabledTextLabelColour));
-    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "HoverTextColour",
-                          "Property to get/set the label's colour under the pointer. Value is "
-                          "\"aarrggbb\".",
-                          &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
-                          Colour(EnabledTextLabelColour));
-    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "SelectedTextColour",
-                          "Property to get/set the selected tab's label colour. Value is "
-                          "\"aarrggbb\".",
-                          &MXTabButton::setSelectedTextColour, &MXTabButton::getSelectedTextColour,
-                          Colour(EnabledTextLabelColour));
-    CEGUI_DEFINE_PROPERTY(MXTabButton, Colour, "DisabledTextColour",
-                          "Property to get/set the label colour of a disabled tab. Value is "
-                          "\"aarrggbb\".",
-                          &MXTabButton::setDisabledTextColour, &MXTabButton::getDisabledTextColour,
-                          Colour(DisabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "NormalTextColour",
+                                 "Property to get/set the label colour of a tab at rest. Value is "
+                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+                                 &MXTabButton::setNormalTextColour,
+                                 &MXTabButton::getNormalTextColour, Colour(EnabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(
+        MXTabButton, "PushedTextColour",
+        "Property to get/set the label colour of a selected, pressed or hovered "
+        "tab. "
+        "Value is \"aarrggbb\".",
+        &MXTabButton::setPushedTextColour, &MXTabButton::getPushedTextColour,
+        Colour(EnabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(
+        MXTabButton, "HoverTextColour",
+        "Property to get/set the label's colour under the pointer. Value is "
+        "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+        &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
+        Colour(EnabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "SelectedTextColour",
+                                 "Property to get/set the selected tab's label colour. Value is "
+                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+                                 &MXTabButton::setSelectedTextColour,
+                                 &MXTabButton::getSelectedTextColour,
+                                 Colour(EnabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "DisabledTextColour",
+                                 "Property to get/set the label colour of a disabled tab. Value is "
+                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+                                 &MXTabButton::setDisabledTextColour,
+                                 &MXTabButton::getDisabledTextColour,
+                                 Colour(DisabledTextLabelColour));
 }
 
 void MXTabButton::setNormalTextColour(const Colour& colour)

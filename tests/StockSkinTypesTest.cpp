@@ -1012,3 +1012,28 @@ TEST_F(StockSkinTypesTest, AStaticImageTakesCeguisFormattingNames)
     EXPECT_EQ(stars()[0].getWidth(), 200);
     EXPECT_EQ(holder.getProperty("VertFormatting"), "Stretched");
 }
+
+TEST_F(StockSkinTypesTest, ButtonTextColoursTakeTheStockFourCornerForm)
+{
+    // The stock skins write these colours as four corners; each state's text shows its own.
+    Window& button = moxietest::place("MoxieLook/Button", 10, 10, 120, 30);
+    button.setText("OK");
+    button.setProperty("NormalTextColour", "tl:FF102030 tr:FF102030 bl:FF102030 br:FF102030");
+    button.setProperty("HoverTextColour", "FF405060");
+    EXPECT_EQ(button.getProperty("NormalTextColour"), "FF102030");
+    EXPECT_EQ(argb(find(drawnBy(button), "text")->colours.d_top_left), 0xFF102030u);
+    const Vector2f over = moxietest::centreOf(button);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    EXPECT_EQ(argb(find(drawnBy(button), "text")->colours.d_top_left), 0xFF405060u);
+
+    Window& radio = moxietest::place("MoxieLook/RadioButton", 10, 60, 120, 30);
+    radio.setText("Mono");
+    radio.setProperty("DisabledTextColour", "tl:FF707070 tr:FF707070 bl:FF707070 br:FF707070");
+    radio.disable();
+    EXPECT_EQ(argb(find(drawnBy(radio), "text")->colours.d_top_left), 0xFF707070u);
+
+    Window& tab = moxietest::place("MoxieLook/TabButton", 10, 110, 90, 26);
+    tab.setText("Audio");
+    tab.setProperty("NormalTextColour", "tl:FF00A0A0 tr:FF00A0A0 bl:FF00A0A0 br:FF00A0A0");
+    EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFF00A0A0u);
+}
