@@ -734,6 +734,33 @@ TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
     EXPECT_EQ(argb(find(drawnBy(*menu), "PopupMenuFill")->colours.d_top_left), 0xFF406080u);
     open->disable();
     EXPECT_EQ(argb(find(drawnBy(*open), "text")->colours.d_top_left), 0xFF808000u);
+    open->enable();
+    // Held, the band takes the pushed tint; dragged off the item, the pushed-off one.
+    open->setProperty("PushedColour", "FF00FFFF");
+    open->setProperty("PushedOffColour", "FFFF00FF");
+    moxietest::leftDown();
+    EXPECT_EQ(argb(find(drawnBy(*open), "MenuItemOpenMiddle")->colours.d_top_left), 0xFF00FFFFu);
+    moxietest::pointerTo(over.d_x, over.d_y + 200);
+    const auto heldOff = find(drawnBy(*open), "MenuItemFocusMiddle");
+    ASSERT_TRUE(heldOff);
+    EXPECT_EQ(argb(heldOff->colours.d_top_left), 0xFFFF00FFu);
+    moxietest::pointerTo(over.d_x, over.d_y);
+    moxietest::leftUp();
+    // The pop-up's border width moves its items from its frame, on every side.
+    menu = static_cast<PopupMenu*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu", "Spare"));
+    moxietest::context().getRootWindow()->addChild(menu);
+    auto* spare = static_cast<MenuItem*>(
+        WindowManager::getSingleton().createWindow("MoxieLook/MenuItem", "SpareItem"));
+    spare->setText("Spare");
+    menu->addItem(spare);
+    const float before =
+        spare->getUnclippedOuterRect().get().left() - menu->getUnclippedOuterRect().get().left();
+    EXPECT_EQ(menu->getProperty("BorderWidth"), "2");
+    menu->setProperty("BorderWidth", "9");
+    EXPECT_EQ(spare->getUnclippedOuterRect().get().left() -
+                  menu->getUnclippedOuterRect().get().left(),
+              before + 7);
 }
 
 TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsToldInItsTint)
