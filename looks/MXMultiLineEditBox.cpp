@@ -126,8 +126,10 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
     const ColourRect normal = d_imagery.textColour(isReadOnly(), isEffectiveDisabled(), alpha);
     const ColourRect selectedText = d_imagery.selectedTextColour(alpha);
     const ColourRect brush = d_imagery.selectionTint(hasInputFocus(), alpha);
-    const Image& selection =
-        getSelectionBrushImage() ? *getSelectionBrushImage() : d_imagery.selection(hasInputFocus());
+    // The look's own brush changes with focus; a host's brush stays as it was given.
+    const Image* hostBrush = getSelectionBrushImage();
+    const bool ownBrush = !hostBrush || hostBrush == &lookImage(EditboxImagery::SelectionImageName);
+    const Image& selection = ownBrush ? d_imagery.selection(hasInputFocus()) : *hostBrush;
     const LineList& lines = getFormattedLines();
     const String& text = getTextVisual();
     const float left = area.left() - getHorzScrollbar()->getScrollPosition();

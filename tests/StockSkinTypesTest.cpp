@@ -526,6 +526,12 @@ TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
         ASSERT_TRUE(brush);
         EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF00FF00u);
         EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFFFFEE00u);
+        // Focus elsewhere: the inactive brush in its own tint.
+        box.setProperty("InactiveSelectionColour", "FF0000FF");
+        box.deactivate();
+        const auto inactive = find(drawnBy(box), "EditboxSelectionInactive");
+        ASSERT_TRUE(inactive);
+        EXPECT_EQ(argb(inactive->colours.d_top_left), 0xFF0000FFu);
 
         box.setProperty("ReadOnly", "True");
         box.setProperty("ReadOnlyBGColour", "FFDDEEFF");
@@ -1063,4 +1069,58 @@ TEST_F(StockSkinTypesTest, ButtonTextColoursTakeTheStockFourCornerForm)
     tab.setText("Audio");
     tab.setProperty("NormalTextColour", "tl:FF00A0A0 tr:FF00A0A0 bl:FF00A0A0 br:FF00A0A0");
     EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFF00A0A0u);
+}
+
+TEST_F(StockSkinTypesTest, EveryFramedStaticTintsItsFrameAndBackground)
+{
+    // One script over each type the stock skins give "FrameColours" and "BackgroundColours".
+    for (const char* type : {"MoxieLook/Static", "MoxieLook/StaticText", "MoxieLook/StaticImage",
+                             "MoxieLook/GroupBox"})
+    {
+        Window& window = moxietest::place(type, 10, 10, 200, 100);
+        window.setProperty("FrameEnabled", "True");
+        window.setProperty("BackgroundEnabled", "True");
+        window.setProperty("FrameColours", "FF112233");
+        window.setProperty("BackgroundColours", "FF445566");
+        int framePieces = 0, fills = 0;
+        for (const DrawnQuad& quad : drawnBy(window))
+        {
+            if (quad.image == "StaticFrameFill")
+            {
+                ++fills;
+                EXPECT_EQ(argb(quad.colours.d_top_left), 0xFF445566u) << type;
+            }
+            else if (quad.image.rfind("StaticFrame", 0) == 0)
+            {
+                ++framePieces;
+                EXPECT_EQ(argb(quad.colours.d_top_left), 0xFF112233u) << type << " " << quad;
+            }
+        }
+        EXPECT_EQ(framePieces, 8) << type;
+        EXPECT_EQ(fills, 1) << type;
+        WindowManager::getSingleton().destroyWindow(&window);
+    }
+}
+
+TEST_F(StockSkinTypesTest, SegmentedBarsTurnAndReverseByTheirProperties)
+{
+    auto& meter = static_cast<ProgressBar&>(moxietest::place("MoxieLook/VUMeter", 10, 10, 30, 200));
+    meter.setProgress(0.25f);
+    auto litSpan = [&meter]
+    {
+        std::vector<DrawnQuad> lit;
+        for (const DrawnQuad& quad : drawnBy(meter))
+            if (quad.image == "MeterSegment" && argb(quad.colours.d_top_left) != 0xFFC5CED9u)
+                lit.push_back(quad);
+        return spanOf(lit, "MeterSegment");
+    };
+    // Upright, lit from the bottom; reversed, from the top.
+    const Rectf fromBottom = litSpan();
+    EXPECT_GT(fromBottom.top(), 100);
+    meter.setProperty("ReversedProgress", "True");
+    EXPECT_LT(litSpan().bottom(), 100);
+    // Laid across, lit from the right while reversed.
+    meter.setSize(USize(cegui_absdim(200), cegui_absdim(30)));
+    meter.setProperty("VerticalProgress", "False");
+    EXPECT_GT(litSpan().left(), 100);
 }
