@@ -93,6 +93,13 @@ TEST_F(StockSkinTypesTest, LabelsAreDefaultWindowsTakingTheStockFormattingNames)
     EXPECT_NEAR(drawnBy(label)[0].rect.left(), (200 - width) / 2, 1.5f);
     label.disable();
     EXPECT_EQ(argb(drawnBy(label)[0].colours.d_top_left), 0xFF888888u);
+    label.setProperty("DisabledTextColour", "tl:FF605040 tr:FF605040 bl:FF605040 br:FF605040");
+    EXPECT_EQ(argb(drawnBy(label)[0].colours.d_top_left), 0xFF605040u);
+    // Upright: from the top, then from the bottom.
+    label.setProperty("VertFormatting", "TopAligned");
+    const float atTop = drawnBy(label)[0].rect.top();
+    label.setProperty("VertFormatting", "BottomAligned");
+    EXPECT_GT(drawnBy(label)[0].rect.top(), atTop + 5);
 }
 
 TEST_F(StockSkinTypesTest, StaticsDrawTheirFrameAndBackgroundAndHoldChildrenInside)
@@ -676,7 +683,8 @@ TEST_F(StockSkinTypesTest, ItemTabTreeAndGroupColoursFromStockLayoutsReachTheDra
     Window& box = moxietest::place("MoxieLook/GroupBox", 300, 150, 200, 100);
     box.setText("Sound");
     box.setProperty("DisabledTextColour", "FF777766");
-    EXPECT_NE(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
+    box.setProperty("NormalTextColour", "FF665544");
+    EXPECT_EQ(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF665544u);
     box.disable();
     EXPECT_EQ(argb(find(drawnBy(box), "text")->colours.d_top_left), 0xFF777766u);
     // No backdrop behind the caption until a layout asks for one; then it lies under the text.
