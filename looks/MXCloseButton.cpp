@@ -57,6 +57,9 @@ void MXCloseButton::drawPushed()
 
 void MXCloseButton::drawDisabled()
 {
+    // A host's disabled picture shows as given; otherwise the normal one, faded.
+    if (isDisabledImageEnabled())
+        return drawCentred(d_disabledImage.getImage(), 1.0f);
     drawCentred(isNormalImageEnabled() ? d_normalImage.getImage() : d_normal, DisabledAlpha);
 }
 

@@ -1,7 +1,8 @@
 // "MoxieLook/CloseButton": the push-button look drawing one picture per state instead of
 // its frame and fill: "CloseButtonNormal", "...Hover", "...Pushed" (disabled: the normal
-// picture faded), or those given as "NormalImage", "HoverImage" and "PushedImage". The frame window
-// also uses it for its minimise and roll-up buttons with their own pictures.
+// picture faded), or those given as "NormalImage", "HoverImage", "PushedImage" and
+// "DisabledImage". The frame window also uses it for its minimise and roll-up buttons with
+// their own pictures.
 #pragma once
 
 #include "looks/MXButton.h"

@@ -1132,3 +1132,31 @@ TEST_F(StockSkinTypesTest, SegmentedBarsTurnAndReverseByTheirProperties)
     meter.setProperty("VerticalProgress", "False");
     EXPECT_GT(litSpan().left(), 100);
 }
+
+TEST_F(StockSkinTypesTest, ButtonsShowEachStatesPictureAndTheIconItsTint)
+{
+    for (const char* type : {"MoxieLook/Button", "MoxieLook/ImageButton", "MoxieLook/SystemButton"})
+    {
+        SCOPED_TRACE(type);
+        Window& button = moxietest::place(type, 10, 10, 40, 30);
+        button.setProperty("NormalImage", "MoxieLook/IconStar");
+        button.setProperty("HoverImage", "MoxieLook/IconHeart");
+        button.setProperty("PushedImage", "MoxieLook/IconFolder");
+        button.setProperty("DisabledImage", "MoxieLook/IconDocument");
+        EXPECT_TRUE(find(drawnBy(button), "IconStar"));
+        const Vector2f over = moxietest::centreOf(button);
+        moxietest::pointerTo(over.d_x, over.d_y);
+        EXPECT_TRUE(find(drawnBy(button), "IconHeart"));
+        moxietest::leftDown();
+        EXPECT_TRUE(find(drawnBy(button), "IconFolder"));
+        moxietest::leftUp();
+        moxietest::pointerTo(600, 500);
+        button.disable();
+        EXPECT_TRUE(find(drawnBy(button), "IconDocument"));
+        WindowManager::getSingleton().destroyWindow(&button);
+    }
+    Window& icon = moxietest::place("MoxieLook/IconButton", 10, 10, 40, 32);
+    icon.setProperty("IconImage", "MoxieLook/IconStar");
+    icon.setProperty("IconColours", "FF30C030");
+    EXPECT_EQ(argb(find(drawnBy(icon), "IconStar")->colours.d_top_left), 0xFF30C030u);
+}
