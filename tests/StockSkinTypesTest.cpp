@@ -561,9 +561,54 @@ TEST_F(StockSkinTypesTest, ACheckBoxLabelTakesTheStockSkinsColourOfItsState)
     EXPECT_EQ(label(), 0xFF112233u);
     moxietest::pointerTo(80, 20);
     EXPECT_EQ(label(), 0xFF445566u);
+    box.setProperty("PushedTextColour", "FFAA5500");
+    moxietest::leftDown();
+    EXPECT_EQ(label(), 0xFFAA5500u);
+    moxietest::leftUp();
     moxietest::pointerTo(700, 500);
     box.disable();
     EXPECT_EQ(label(), 0xFF778899u);
+}
+
+TEST_F(StockSkinTypesTest, TabAndComboPartsTakeTheRestOfTheirStockColours)
+{
+    Window& tab = moxietest::place("MoxieLook/TabButton", 10, 10, 90, 26);
+    tab.setText("Audio");
+    tab.setProperty("PushedTextColour", "FF204060");
+    tab.setProperty("DisabledTextColour", "FF606060");
+    const Vector2f at = moxietest::centreOf(tab);
+    moxietest::pointerTo(at.d_x, at.d_y);
+    moxietest::leftDown();
+    EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFF204060u);
+    moxietest::leftUp();
+    moxietest::pointerTo(700, 500);
+    tab.disable();
+    EXPECT_EQ(argb(find(drawnBy(tab), "text")->colours.d_top_left), 0xFF606060u);
+
+    // Through the combo box, as a layout for a stock skin sets them.
+    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 60, 200, 150));
+    combo.setText("Pears");
+    combo.setProperty("SelectedEditTextColour", "FFFFFF00");
+    combo.setProperty("ActiveEditSelectionColour", "FF008000");
+    combo.setProperty("InactiveEditSelectionColour", "FF800000");
+    Editbox* edit = combo.getEditbox();
+    edit->activate();
+    edit->setSelection(0, 5);
+    auto quads = drawnBy(*edit);
+    EXPECT_EQ(argb(find(quads, "EditboxSelection")->colours.d_top_left), 0xFF008000u);
+    EXPECT_EQ(argb(find(quads, "text")->colours.d_top_left), 0xFFFFFF00u);
+    edit->deactivate();
+    EXPECT_EQ(argb(find(drawnBy(*edit), "EditboxSelectionInactive")->colours.d_top_left),
+              0xFF800000u);
+    combo.setProperty("DropDownButtonNormalImage", "MoxieLook/IconStar");
+    combo.setProperty("DropDownButtonPushedImage", "MoxieLook/IconHeart");
+    PushButton* button = combo.getPushButton();
+    EXPECT_TRUE(find(drawnBy(*button), "IconStar"));
+    const Vector2f press = moxietest::centreOf(*button);
+    moxietest::pointerTo(press.d_x, press.d_y);
+    moxietest::leftDown();
+    EXPECT_TRUE(find(drawnBy(*button), "IconHeart"));
+    moxietest::leftUp();
 }
 
 TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
