@@ -224,6 +224,10 @@ void MXStaticText::drawContent(GeometryBuffer& buffer, const Rectf& inner)
     Rectf moved = area;
     moved.offset(Vector2f(-getHorzScrollbar()->getScrollPosition(),
                           -getVertScrollbar()->getScrollPosition()));
+    // Laid out over the whole document, so that right-aligned or centred lines overflow to
+    // the right, where the horizontal bar scrolls.
+    moved.d_max.d_x =
+        std::max(moved.d_max.d_x, moved.left() + getHorzScrollbar()->getDocumentSize());
     moved.d_max.d_y =
         std::max(moved.d_max.d_y, moved.top() + getVertScrollbar()->getDocumentSize());
     if (getFont())

@@ -505,6 +505,24 @@ TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
     text.setText("Short");
     drawnBy(text);
     EXPECT_FALSE(bar->isVisible());
+
+    // A line wider than the area, unwrapped, takes the horizontal bar; right-aligned, a
+    // short last line stands past the area's right edge until scrolled to.
+    text.setProperty("HorzFormatting", "RightAligned");
+    text.setProperty("HorzScrollbar", "True");
+    text.setText("A single line far too long to be seen whole in two hundred pixels\nEnd");
+    // The glyphs drawn reach down to the second line only once "End" shows.
+    auto glyphsBottom = [&text] { return spanOf(drawnBy(text), "text").bottom(); };
+    const float before = glyphsBottom();
+    Scrollbar* across = text.getHorzScrollbar();
+    ASSERT_TRUE(across->isVisible());
+    EXPECT_EQ(text.getProperty("HorzScrollDocumentSize"), across->getProperty("DocumentSize"));
+    EXPECT_EQ(text.getProperty("HorzScrollPageSize"), across->getProperty("PageSize"));
+    EXPECT_EQ(text.getProperty("VertScrollPageSize"), bar->getProperty("PageSize"));
+    text.setProperty("HorzScrollPosition", "40");
+    EXPECT_EQ(across->getScrollPosition(), 40);
+    text.setProperty("HorzScrollPosition", "100000"); // clamped to the end
+    EXPECT_GT(glyphsBottom(), before + text.getFont()->getLineSpacing() / 2);
 }
 
 TEST_F(StockSkinTypesTest, EditBoxesTakeTheStockSkinsColours)
