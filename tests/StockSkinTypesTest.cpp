@@ -451,25 +451,33 @@ TEST_F(StockSkinTypesTest, StockPropertiesChangeWhatIsDrawn)
     EXPECT_GT(drawnBy(*bar).back().rect.getHeight(), before);
     EXPECT_THROW(frame.setProperty("TitlebarFont", "NoSuchFont"), UnknownObjectException);
 
-    // "BlinkCaret" false keeps the caret shown however long the box has focus.
-    auto& box = static_cast<MXEditbox&>(moxietest::place("MoxieLook/Editbox", 10, 250, 200, 26));
-    box.activate();
-    moxietest::context().injectTimePulse(0.6f);
-    EXPECT_FALSE(box.isCaretShown()); // blinking by default
-    box.setProperty("BlinkCaret", "False");
-    for (int i = 0; i < 5; ++i)
+    // "BlinkCaret" false keeps the caret shown however long the box has focus; both edit
+    // boxes, by what they draw.
+    for (const char* type : {"MoxieLook/Editbox", "MoxieLook/MultiLineEditbox"})
     {
+        SCOPED_TRACE(type);
+        Window& box = moxietest::place(type, 10, 250, 200, 60);
+        box.activate();
+        auto caretDrawn = [&box] { return find(drawnBy(box), "EditboxCarat").has_value(); };
+        EXPECT_TRUE(caretDrawn());
         moxietest::context().injectTimePulse(0.6f);
-        EXPECT_TRUE(box.isCaretShown());
+        EXPECT_FALSE(caretDrawn()); // blinking by default
+        box.setProperty("BlinkCaret", "False");
+        for (int i = 0; i < 5; ++i)
+        {
+            moxietest::context().injectTimePulse(0.6f);
+            EXPECT_TRUE(caretDrawn());
+        }
+        box.setProperty("BlinkCaret", "True");
+        box.setProperty("BlinkCaretTimeout", "2");
+        moxietest::context().injectTimePulse(1.0f);
+        EXPECT_TRUE(caretDrawn());
+        moxietest::context().injectTimePulse(1.5f);
+        EXPECT_FALSE(caretDrawn());
+        EXPECT_EQ(box.getProperty("BlinkCaretTimeout"), "2");
+        EXPECT_THROW(box.setProperty("BlinkCaretTimeout", "-1"), InvalidRequestException);
+        WindowManager::getSingleton().destroyWindow(&box);
     }
-    box.setProperty("BlinkCaret", "True");
-    box.setProperty("BlinkCaretTimeout", "2");
-    moxietest::context().injectTimePulse(1.0f);
-    EXPECT_TRUE(box.isCaretShown());
-    moxietest::context().injectTimePulse(1.5f);
-    EXPECT_FALSE(box.isCaretShown());
-    EXPECT_EQ(box.getProperty("BlinkCaretTimeout"), "2");
-    EXPECT_THROW(box.setProperty("BlinkCaretTimeout", "-1"), InvalidRequestException);
 }
 
 TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
