@@ -12,6 +12,7 @@
 #include <CEGUI/FontManager.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/PropertyHelper.h>
+#include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/DefaultWindow.h>
@@ -671,6 +672,17 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     addPage(other, "second");
     EXPECT_EQ(other.getTabCount(), 1u);
     EXPECT_EQ(other.getProperty("TabButtonType"), "MoxieLook/TabButton");
+    // A type that exists under another name: the tab is made by it (CEGUI names a window
+    // made through an alias by the type the alias stands for).
+    WindowFactoryManager::getSingleton().addWindowTypeAlias("Test/OwnTab", "MoxieLook/TabButton");
+    tabs.setProperty("TabButtonType", "Test/OwnTab");
+    addPage(tabs, "third");
+    ASSERT_EQ(tabs.getTabCount(), 1u);
+    const Window* made = tabs.getChild(TabControl::TabButtonPaneName)->getChildAtIdx(0);
+    EXPECT_EQ(made->getType(), "MoxieLook/TabButton");
+    EXPECT_EQ(made->getText(), "third");
+    WindowFactoryManager::getSingleton().removeWindowTypeAlias("Test/OwnTab",
+                                                               "MoxieLook/TabButton");
 }
 
 TEST_F(StockSkinTypesTest, SwitchedOffBarsAndFramesLeaveAndChildrenFollowTheInnerArea)
