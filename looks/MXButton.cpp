@@ -177,15 +177,17 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
     const Font* font = getFont();
     if (!font)
         return;
-    // Centred upright by the line's height, rounded as the button has always been.
+    // One centred line by the line's height, rounded as the button has always been; a
+    // wrapped label is centred as a block.
+    const bool wraps = d_horzLabel.value >= HorzTextFormat::WordWrapLeft;
+    const bool oneCentredLine = d_vertLabel.value == VertTextFormat::Centred && !wraps;
     const float yOffset =
-        d_vertLabel.value == VertTextFormat::Centred
-            ? std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f)
-            : 0.0f;
+        oneCentredLine ? std::trunc((area.getHeight() - font->getLineSpacing()) * 0.5f + 0.5f)
+                       : 0.0f;
     const float xOffset = std::trunc(area.getWidth() * getTextXOffset() + 0.5f);
     const Rectf textArea(area.left() + xOffset, area.top() + yOffset, area.right(), area.bottom());
     drawText(*this, buffer, getRenderedString(), textArea, d_horzLabel.value,
-             d_vertLabel.value == VertTextFormat::Centred ? VertTextFormat::Top : d_vertLabel.value,
+             oneCentredLine ? VertTextFormat::Top : d_vertLabel.value,
              ColourRect(withAlpha(textColour, alpha)), nullptr);
 }
 

@@ -50,8 +50,8 @@ MXCombobox::MXCombobox(const String& type, const String& name)
          EditboxName, "InactiveSelectionColour", "ColourRect", WidgetTypeName},
         {"DropDownButtonNormalImage",
          String("Property to get/set the button's picture at rest.") + imageHelp, ButtonName,
-         "NormalImage", "Image", WidgetTypeName,
-         String(ImagesetName) + "/" + ButtonNormalImageName},
+         "NormalImage", "Image", WidgetTypeName, String(ImagesetName) + "/" + ButtonNormalImageName,
+         "DisabledImage"}, // the look shows the normal picture while disabled too
         {"DropDownButtonHoverImage",
          String("Property to get/set the button's picture under the pointer.") + imageHelp,
          ButtonName, "HoverImage", "Image", WidgetTypeName,

@@ -161,7 +161,9 @@ void MenuListStyle::setBackgroundColours(const ColourRect& colours)
 
 void MenuListStyle::setBorderWidth(uint width)
 {
-    d_borderWidth = width;
+    // "-1" reads as four billion: a list sized to its items would grow without end.
+    constexpr uint Widest = 1000;
+    d_borderWidth = std::min(width, Widest);
     d_list.handleUpdatedItemData();
     d_list.invalidate();
 }

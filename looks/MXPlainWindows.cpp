@@ -419,7 +419,8 @@ void addPaneEdgeProperties(Pane& pane, uint top, uint bottom)
 void edgesChanged(Window& pane)
 {
     pane.notifyScreenAreaChanged(true);
-    pane.performChildWindowLayout();
+    // The cached inner rectangle is already fresh: tell the layout it changed.
+    pane.performChildWindowLayout(false, true);
     pane.invalidate();
 }
 } // namespace

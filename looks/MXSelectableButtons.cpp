@@ -6,6 +6,7 @@
 
 #include <CEGUI/Image.h>
 #include <CEGUI/PropertyHelper.h>
+#include <algorithm>
 #include <cmath>
 
 namespace CEGUI
@@ -132,7 +133,9 @@ namespace
 {
 float usableScale(float scale)
 {
-    return scale > 0 && std::isfinite(scale) ? scale : 0.0f;
+    // Far past any display, sizes would overflow into no number.
+    constexpr float Largest = 1000.0f;
+    return scale > 0 && std::isfinite(scale) ? std::min(scale, Largest) : 0.0f;
 }
 } // namespace
 

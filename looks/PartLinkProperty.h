@@ -15,11 +15,12 @@ class PartLinkProperty : public Property
 {
 public:
     //! `defaultValue`: what the composite gives the part; empty, the part's own default.
+    //! `alsoTarget`: a second property of the part written alike (empty: none).
     PartLinkProperty(const String& name, const String& help, const String& partName,
                      const String& target, const String& dataType, const String& origin,
-                     const String& defaultValue = "")
+                     const String& defaultValue = "", const String& alsoTarget = "")
         : Property(name, help, defaultValue, true, dataType, origin), d_partName(partName),
-          d_target(target)
+          d_target(target), d_alsoTarget(alsoTarget)
     {
     }
 
@@ -30,6 +31,8 @@ public:
     void set(PropertyReceiver* receiver, const String& value) override
     {
         part(receiver).setProperty(d_target, value);
+        if (!d_alsoTarget.empty())
+            part(receiver).setProperty(d_alsoTarget, value);
     }
     bool isDefault(const PropertyReceiver* receiver) const override
     {
@@ -54,6 +57,7 @@ private:
 
     String d_partName;
     String d_target;
+    String d_alsoTarget;
 };
 
 } // namespace MoxieLook

@@ -636,6 +636,10 @@ TEST_F(StockSkinTypesTest, TabAndComboPartsTakeTheRestOfTheirStockColours)
     moxietest::leftDown();
     EXPECT_TRUE(find(drawnBy(*button), "IconHeart"));
     moxietest::leftUp();
+    // Disabled, the button shows the picture given for rest, as it does its own.
+    moxietest::pointerTo(700, 500);
+    combo.disable();
+    EXPECT_TRUE(find(drawnBy(*button), "IconStar"));
 }
 
 TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
@@ -1046,6 +1050,10 @@ TEST_F(StockSkinTypesTest, ARadioButtonScalesItsPictureAndTheLabelFollows)
     EXPECT_NEAR(find(after, "text")->rect.left(), textLeft - own.getWidth() * 0.5f, 1.0f);
 
     // A scale that is no size leaves no picture, and no mess.
+    // Absurd scales stay numbers.
+    radio.setProperty("RadioButtonRelativeHeight", "1e38");
+    for (const DrawnQuad& quad : drawnBy(radio))
+        EXPECT_TRUE(std::isfinite(quad.rect.top()) && std::isfinite(quad.rect.bottom())) << quad;
     radio.setProperty("RadioButtonRelativeWidth", "-3");
     EXPECT_EQ(radio.getProperty("RadioButtonRelativeWidth"), "0");
     const auto picture = find(drawnBy(radio), before[0].image);
