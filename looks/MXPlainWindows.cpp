@@ -446,7 +446,7 @@ void MXTabContentPane::setEnableBottom(uint enabled)
 
 Rectf MXTabContentPane::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const
 {
-    return MXTabPane::edges(d_top, d_bottom)
+    return d_pieces.edges(d_top, d_bottom)
         .inside(skipAllPixelAlignment ? getUnclippedOuterRect().getFresh(true)
                                       : getUnclippedOuterRect().get());
 }
@@ -454,12 +454,11 @@ Rectf MXTabContentPane::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) c
 void MXTabContentPane::populateGeometryBuffer()
 {
     if (hasVisibleArea(*this))
-        MXTabPane::drawPieces(getGeometryBuffer(), getPixelSize(), getEffectiveAlpha(), d_top,
-                              d_bottom);
+        d_pieces.draw(getGeometryBuffer(), getPixelSize(), getEffectiveAlpha(), d_top, d_bottom);
 }
 
 MXTabButtonPane::MXTabButtonPane(const String& type, const String& name)
-    : RedrawnWhenUncovered<DefaultWindow>(type, name)
+    : RedrawnWhenUncovered<DefaultWindow>(type, name), d_line(&lookImage(MXTabPane::LowerImageName))
 {
     StaticFrameImages::setCursorOf(*this);
     addPaneEdgeProperties(*this, 0, 1);
@@ -484,12 +483,12 @@ void MXTabButtonPane::populateGeometryBuffer()
     const Sizef size = getPixelSize();
     const float height = std::min(BaseLineHeight, size.d_height);
     const ColourRect tint = withAlpha(ColourRect(MXTabPane::MiddleColour), getEffectiveAlpha());
-    const Image& line = lookImage(MXTabPane::LowerImageName);
     if (d_top)
-        line.render(getGeometryBuffer(), Rectf(0, 0, size.d_width, height), nullptr, tint);
+        d_line->render(getGeometryBuffer(), Rectf(0, 0, size.d_width, height), nullptr, tint);
     if (d_bottom)
-        line.render(getGeometryBuffer(),
-                    Rectf(0, size.d_height - height, size.d_width, size.d_height), nullptr, tint);
+        d_line->render(getGeometryBuffer(),
+                       Rectf(0, size.d_height - height, size.d_width, size.d_height), nullptr,
+                       tint);
 }
 
 } // namespace MoxieLook

@@ -13,6 +13,7 @@
 #include "draw/RedrawnWhenUncovered.h"
 #include "draw/TextDrawing.h"
 #include "looks/LookFactory.h"
+#include "looks/MXTabPane.h"
 
 #include <CEGUI/widgets/DefaultWindow.h>
 #include <optional>
@@ -175,6 +176,7 @@ protected:
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
 
 private:
+    TabPanePieces d_pieces;
     uint d_top = 0;
     uint d_bottom = 1;
 };
@@ -199,6 +201,7 @@ protected:
     void populateGeometryBuffer() override;
 
 private:
+    const Image* d_line;
     uint d_top = 0;
     uint d_bottom = 1;
 };

@@ -3,6 +3,7 @@
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
+#include "looks/PartLinkProperty.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
@@ -14,42 +15,6 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-namespace
-{
-// One of a part's properties under the owner's name, as CEGUI's skins link them.
-class BarLinkProperty : public Property
-{
-public:
-    BarLinkProperty(const char* name, const char* part, const char* target)
-        : Property(name, String("Property to get/set the scroll bar's ") + target + ".", "0", false,
-                   MXStaticText::WidgetTypeName),
-          d_part(part), d_target(target)
-    {
-    }
-
-    String get(const PropertyReceiver* receiver) const override
-    {
-        const Window* bar = partOrNull(*static_cast<const Window*>(receiver), d_part);
-        return bar ? bar->getProperty(d_target) : String("0");
-    }
-
-    void set(PropertyReceiver* receiver, const String& value) override
-    {
-        Window* bar = partOrNull(*static_cast<Window*>(receiver), d_part);
-        if (!bar)
-            throw InvalidRequestException("\"" + getName() + "\": no scroll bar to give '" + value +
-                                          "' to.");
-        bar->setProperty(d_target, value);
-    }
-
-    Property* clone() const override { return new BarLinkProperty(*this); }
-
-private:
-    const char* d_part;
-    const char* d_target;
-};
-} // namespace
-
 void StaticFrameImages::applyTo(Static& target)
 {
     target.setFrameImages(&lookImage(TopLeftImage), &lookImage(TopRightImage),
@@ -162,15 +127,21 @@ void MXStaticText::addScrollProperties()
                           &MXStaticText::setHorzScrollbarEnabled,
                           &MXStaticText::isHorzScrollbarEnabled, false);
     // The bars' own values under the names CEGUI's skins link them by.
-    static BarLinkProperty links[] = {
-        {"VertScrollPosition", VertScrollbarName, "ScrollPosition"},
-        {"VertScrollPageSize", VertScrollbarName, "PageSize"},
-        {"VertScrollDocumentSize", VertScrollbarName, "DocumentSize"},
-        {"HorzScrollPosition", HorzScrollbarName, "ScrollPosition"},
-        {"HorzScrollPageSize", HorzScrollbarName, "PageSize"},
-        {"HorzScrollDocumentSize", HorzScrollbarName, "DocumentSize"}};
-    for (BarLinkProperty& link : links)
-        addProperty(&link);
+    auto link = [](const char* name, const char* bar, const char* target)
+    {
+        return PartLinkProperty(name,
+                                String("Property to get/set the scroll bar's ") + target + ".", bar,
+                                target, "float", WidgetTypeName, "", "", false);
+    };
+    static PartLinkProperty links[] = {
+        link("VertScrollPosition", VertScrollbarName, "ScrollPosition"),
+        link("VertScrollPageSize", VertScrollbarName, "PageSize"),
+        link("VertScrollDocumentSize", VertScrollbarName, "DocumentSize"),
+        link("HorzScrollPosition", HorzScrollbarName, "ScrollPosition"),
+        link("HorzScrollPageSize", HorzScrollbarName, "PageSize"),
+        link("HorzScrollDocumentSize", HorzScrollbarName, "DocumentSize")};
+    for (PartLinkProperty& bar : links)
+        addProperty(&bar);
 }
 
 Rectf MXStaticText::configureScrollbars(const Rectf& inner)

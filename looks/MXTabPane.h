@@ -12,6 +12,29 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+//! The pane's pieces, looked up once per window; drawn by the tab pane and the stock skins'
+//! content pane type alike.
+class TabPanePieces
+{
+public:
+    TabPanePieces();
+    //! The side columns' widths and the edge rows' height (the lower piece's width): a top
+    //! row when asked, a bottom row unless told not to.
+    EdgeInsets edges(bool topRow = false, bool bottomRow = true) const;
+    //! Over a window-local area of `size`. A top row is the lower edge's straight line
+    //! across the whole width: the lower corners would curl the wrong way.
+    void draw(GeometryBuffer& buffer, const Sizef& size, float alpha, bool topRow = false,
+              bool bottomRow = true) const;
+
+private:
+    const Image* d_left;
+    const Image* d_middle;
+    const Image* d_right;
+    const Image* d_lowerLeft;
+    const Image* d_lowerRight;
+    const Image* d_lower;
+};
+
 class MXTabPane : public Static
 {
 public:
@@ -28,19 +51,12 @@ public:
 
     MXTabPane(const String& type, const String& name);
 
-    //! The side columns' widths and the lower row's height, which is the lower piece's
-    //! width.
-    static EdgeInsets edges();
-    //! The pieces over a window-local area of `size`, shared with the content pane type,
-    //! which may ask for the lower row along its top too, or for none at its bottom.
-    static void drawPieces(GeometryBuffer& buffer, const Sizef& size, float alpha,
-                           bool topRow = false, bool bottomRow = true);
-    //! The edges with those rows.
-    static EdgeInsets edges(bool topRow, bool bottomRow);
-
 protected:
     void populateGeometryBuffer() override;
     Rectf getUnclippedInnerRect_impl(bool skipAllPixelAlignment) const override;
+
+private:
+    TabPanePieces d_pieces;
 };
 
 using MXTabPaneFactory = LookFactory<MXTabPane>;

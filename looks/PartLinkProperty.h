@@ -16,10 +16,12 @@ class PartLinkProperty : public Property
 public:
     //! `defaultValue`: what the composite gives the part; empty, the part's own default.
     //! `alsoTarget`: a second property of the part written alike (empty: none).
+    //! `writesXML`: false for values the window works out itself.
     PartLinkProperty(const String& name, const String& help, const String& partName,
                      const String& target, const String& dataType, const String& origin,
-                     const String& defaultValue = "", const String& alsoTarget = "")
-        : Property(name, help, defaultValue, true, dataType, origin), d_partName(partName),
+                     const String& defaultValue = "", const String& alsoTarget = "",
+                     bool writesXML = true)
+        : Property(name, help, defaultValue, writesXML, dataType, origin), d_partName(partName),
           d_target(target), d_alsoTarget(alsoTarget)
     {
     }
