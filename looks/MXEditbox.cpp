@@ -38,8 +38,7 @@ void MXEditbox::setTextFormatting(const String& name)
         throw InvalidRequestException("\"TextFormatting\": '" + name +
                                       "' is no one-line formatting; an edit box takes "
                                       "LeftAligned, RightAligned or CentreAligned.");
-    d_alignment = alignment;
-    d_alignmentName = name;
+    d_alignment.set(name);
     invalidate();
 }
 
@@ -105,7 +104,7 @@ void MXEditbox::populateGeometryBuffer()
     const float toCaret = font->getTextAdvance(text.substr(0, caret));
     const float caretWidth = d_imagery.caret().getRenderedSize().d_width;
     d_textOffset = scrolledTextOffset(d_textOffset, area.getWidth(), font->getTextExtent(text),
-                                      caretWidth, toCaret, d_alignment);
+                                      caretWidth, toCaret, d_alignment.value);
     const float left = area.left() + d_textOffset;
 
     const std::size_t selStart = std::min(getSelectionStartIndex(), text.length());

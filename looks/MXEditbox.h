@@ -49,7 +49,7 @@ public:
     //! CEGUI's core renderer's "TextFormatting": where a text that fits stands
     //! ("LeftAligned", "RightAligned" or "CentreAligned"; others are refused, as there).
     void setTextFormatting(const String& name);
-    const String& getTextFormatting() const { return d_alignmentName; }
+    const String& getTextFormatting() const { return d_alignment.name; }
 
 protected:
     void onCaretMoved(WindowEventArgs& e) override;
@@ -63,8 +63,7 @@ private:
 
     float d_textOffset = 0.0f;
     CaretBlink d_blink;
-    HorzTextFormat d_alignment = HorzTextFormat::Left;
-    String d_alignmentName = "LeftAligned";
+    NamedHorzFormat d_alignment{HorzTextFormat::Left, "LeftAligned"};
 };
 
 //! "MoxieLook/ComboEditbox": the combo box's edit part as a type of its own, the edit

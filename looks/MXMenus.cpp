@@ -170,13 +170,13 @@ void MenuListStyle::setBorderWidth(uint width)
 
 uint MenuListStyle::getBorderWidth() const
 {
-    return d_borderWidth.value_or(static_cast<uint>(d_ownSpacing));
+    return d_borderWidth.value_or(static_cast<uint>(d_ownSpacing.left()));
 }
 
 Rectf MenuListStyle::spacing() const
 {
     if (!d_borderWidth)
-        return ownSpacing();
+        return d_ownSpacing;
     const float width = static_cast<float>(*d_borderWidth);
     return Rectf(width, width, width, width);
 }
@@ -211,7 +211,8 @@ ColourRect MenuItemTints::textColours(const MenuItem& item, MenuItemState state)
 // --- the bar ----------------------------------------------------------------------------
 
 MXMenubar::MXMenubar(const String& type, const String& name)
-    : RedrawnWhenUncovered<Menubar>(type, name), MenuListStyle(*this, Padding)
+    // Only the bar's ends keep their distance: its items reach its top and bottom.
+    : RedrawnWhenUncovered<Menubar>(type, name), MenuListStyle(*this, Rectf(Padding, 0, Padding, 0))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
@@ -252,7 +253,8 @@ void MXMenubar::onDeactivated(ActivationEventArgs& e)
 // --- the pop-up -------------------------------------------------------------------------
 
 MXPopupMenu::MXPopupMenu(const String& type, const String& name)
-    : RedrawnWhenUncovered<PopupMenu>(type, name), MenuListStyle(*this, Padding)
+    : RedrawnWhenUncovered<PopupMenu>(type, name),
+      MenuListStyle(*this, Rectf(Padding, Padding, Padding, Padding))
 {
     addMenuListStyleProperties(*this);
     const String prefix(PopupFramePrefix);

@@ -74,7 +74,12 @@ struct MenuImagery
 class MenuListStyle
 {
 public:
-    MenuListStyle(ItemListBase& list, float ownSpacing) : d_list(list), d_ownSpacing(ownSpacing) {}
+    //! `ownSpacing`: the look's own, left, top, right and bottom, until "BorderWidth" is set
+    //! (which reads back its left).
+    MenuListStyle(ItemListBase& list, const Rectf& ownSpacing)
+        : d_list(list), d_ownSpacing(ownSpacing)
+    {
+    }
 
     void setBackgroundColours(const ColourRect& colours);
     const ColourRect& getBackgroundColours() const { return d_background; }
@@ -85,17 +90,9 @@ public:
 
 private:
     ItemListBase& d_list;
-    float d_ownSpacing;
+    Rectf d_ownSpacing;
     ColourRect d_background{Colour(0xFFFFFFFF)};
     std::optional<uint> d_borderWidth;
-
-protected:
-    //! The look's own spacing on the sides it keeps it, before "BorderWidth" is set.
-    virtual Rectf ownSpacing() const
-    {
-        return Rectf(d_ownSpacing, d_ownSpacing, d_ownSpacing, d_ownSpacing);
-    }
-    ~MenuListStyle() = default;
 };
 
 class MXMenubar : public RedrawnWhenUncovered<Menubar>,
@@ -115,8 +112,6 @@ public:
 protected:
     //! A click elsewhere closes the open menu.
     void onDeactivated(ActivationEventArgs& e) override;
-    //! Only the bar's ends keep their distance: its items reach its top and bottom.
-    Rectf ownSpacing() const override { return Rectf(Padding, 0, Padding, 0); }
 
 private:
     bool d_destroyed = false;

@@ -91,12 +91,6 @@ void MXLabel::setVertFormatting(const String& name)
     invalidate();
 }
 
-void MXLabel::onTextChanged(WindowEventArgs& e)
-{
-    RedrawnWhenUncovered<DefaultWindow>::onTextChanged(e);
-    invalidate();
-}
-
 void MXLabel::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
@@ -269,12 +263,6 @@ void MXStaticFrame::populateGeometryBuffer()
                                                         : MXLabel::DefaultNormalTextColour));
 }
 
-void MXStaticFrame::onTextChanged(WindowEventArgs& e)
-{
-    MXFramedWindow::onTextChanged(e);
-    invalidate();
-}
-
 MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(type, name)
 {
     setSize(USize(cegui_absdim(200), cegui_absdim(120)));
@@ -336,7 +324,6 @@ Rectf MXGroupBox::captionArea() const
 void MXGroupBox::onTextChanged(WindowEventArgs& e)
 {
     MXFramedWindow::onTextChanged(e);
-    invalidate();
     innerAreaChanged(); // the caption band moves it
 }
 

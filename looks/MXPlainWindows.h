@@ -44,7 +44,6 @@ public:
 
 protected:
     void populateGeometryBuffer() override;
-    void onTextChanged(WindowEventArgs& e) override;
 
 private:
     ColourRect d_normalText{DefaultNormalTextColour};
@@ -108,7 +107,6 @@ public:
 
 protected:
     void populateGeometryBuffer() override;
-    void onTextChanged(WindowEventArgs& e) override;
 
 private:
     NamedHorzFormat d_horz{HorzTextFormat::Left, "LeftAligned"};

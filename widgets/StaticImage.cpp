@@ -58,6 +58,11 @@ void StaticImage::setImageColours(const ColourRect& colours)
 void StaticImage::setFormatting(FormattedImage::HorzFormatting horz,
                                 FormattedImage::VertFormatting vert)
 {
+    // A name given for an axis is read back until that axis changes.
+    if (horz != d_image.getHorzFormatting())
+        d_horzName.clear();
+    if (vert != d_image.getVertFormatting())
+        d_vertName.clear();
     d_image.setHorzFormatting(horz);
     d_image.setVertFormatting(vert);
     invalidate();
@@ -94,12 +99,9 @@ void StaticImage::setHorzFormattingName(const String& name)
     d_horzName = name;
 }
 
-// The name it was given, while the formatting is still that name's.
 String StaticImage::getHorzFormattingName() const
 {
-    return !d_horzName.empty() && horzFormattingFromName(d_horzName) == getHorzFormatting()
-               ? d_horzName
-               : String(HorzNames[getHorzFormatting()]);
+    return d_horzName.empty() ? String(HorzNames[getHorzFormatting()]) : d_horzName;
 }
 
 void StaticImage::setVertFormattingName(const String& name)
@@ -110,9 +112,7 @@ void StaticImage::setVertFormattingName(const String& name)
 
 String StaticImage::getVertFormattingName() const
 {
-    return !d_vertName.empty() && vertFormattingFromName(d_vertName) == getVertFormatting()
-               ? d_vertName
-               : String(VertNames[getVertFormatting()]);
+    return d_vertName.empty() ? String(VertNames[getVertFormatting()]) : d_vertName;
 }
 
 void StaticImage::drawContent(GeometryBuffer& buffer, const Rectf& inner)
