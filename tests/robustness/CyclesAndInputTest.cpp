@@ -82,30 +82,6 @@ std::size_t windowCount()
 }
 } // namespace
 
-TEST(Robustness, EveryTypeIsMadeDrawnAndDestroyedAThousandTimes)
-{
-    const auto types = moxietest::moduleTypeNames();
-    moxietest::freshSheet();
-    WindowManager::getSingleton().cleanDeadPool();
-    const std::size_t before = windowCount();
-    for (int cycle = 0; cycle < 1000; ++cycle)
-    {
-        std::vector<Window*> made;
-        for (const String& type : types)
-        {
-            Window* window = moxietest::makeSample(type, 10, 10, 120, 60);
-            addChildren(*window);
-            made.push_back(window);
-        }
-        moxietest::renderFrame();
-        for (Window* window : made)
-            WindowManager::getSingleton().destroyWindow(window);
-        WindowManager::getSingleton().cleanDeadPool();
-    }
-    // Tooltips, task-bar buttons and the like went with their owners.
-    EXPECT_EQ(windowCount(), before);
-}
-
 TEST(Robustness, MalformedLayoutsGiveCeguiExceptionsAndLeaveNothingBehind)
 {
     std::string nested;
