@@ -107,9 +107,7 @@ TEST_F(ButtonTest, InjectedPointerDrivesHoverPushedAndBackToNormal)
     EXPECT_EQ(imageNames(quads), picture("ButtonArrow"));
     expectFill(quads[0], 0xFFAFAFAF, 0xFFFFFFFF);
 
-    moxietest::pointerTo(50, 20);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(50, 20);
     EXPECT_TRUE(clicked);
 }
 

@@ -55,9 +55,7 @@ protected:
 
 TEST_F(EditboxTest, TypingCaretClicksAndSelections)
 {
-    moxietest::pointerTo(100, 20);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(100, 20);
     ASSERT_TRUE(box->hasInputFocus());
     type("Hello world");
     EXPECT_EQ(box->getText(), "Hello world");
@@ -69,13 +67,9 @@ TEST_F(EditboxTest, TypingCaretClicksAndSelections)
     // A click lands on the glyph boundary nearest the pointer.
     drawnBy(*box);
     const float between = (boundaryX(4) + boundaryX(5)) / 2;
-    moxietest::pointerTo(boundaryX(4) + 1, 20);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(boundaryX(4) + 1, 20);
     EXPECT_EQ(box->getCaretIndex(), 4u);
-    moxietest::pointerTo(between + 1.5f, 20);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(between + 1.5f, 20);
     EXPECT_EQ(box->getCaretIndex(), 5u);
 
     // Dragging selects; so do shift and the arrows.
@@ -266,14 +260,10 @@ TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
     spinner.setMaximumValue(10);
     spinner.setCurrentValue(5);
     const Rectf up = spinner.getChild(Spinner::IncreaseButtonName)->getUnclippedOuterRect().get();
-    moxietest::pointerTo(up.left() + 4, up.top() + 4);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(up.left() + 4, up.top() + 4);
     EXPECT_EQ(spinner.getCurrentValue(), 6);
     const Rectf down = spinner.getChild(Spinner::DecreaseButtonName)->getUnclippedOuterRect().get();
-    moxietest::pointerTo(down.left() + 4, down.top() + 4);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(down.left() + 4, down.top() + 4);
     moxietest::leftDown();
     moxietest::leftUp();
     EXPECT_EQ(spinner.getCurrentValue(), 4);

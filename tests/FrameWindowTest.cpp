@@ -220,9 +220,7 @@ TEST_F(FrameWindowTest, HidingIsClosingAndShowingSoundsOnce)
     // The close button does the same.
     sounds().clear();
     const Rectf close = frame->getCloseButton()->getUnclippedOuterRect().get();
-    moxietest::pointerTo(close.left() + 8, close.top() + 8);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(close.left() + 8, close.top() + 8);
     EXPECT_EQ(closed, 2);
     EXPECT_FALSE(frame->isVisible());
     EXPECT_EQ(sounds(), std::vector<std::string>{"woop"});

@@ -52,9 +52,7 @@ protected:
             context().injectKeyDown(Key::LeftControl);
         if (keys & Shift)
             context().injectKeyDown(Key::LeftShift);
-        moxietest::pointerTo(at.d_x, at.d_y);
-        moxietest::leftDown();
-        moxietest::leftUp();
+        moxietest::click(at.d_x, at.d_y);
         if (keys & Control)
             context().injectKeyUp(Key::LeftControl);
         if (keys & Shift)
@@ -175,9 +173,7 @@ TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
     EXPECT_EQ(drop.getUnclippedOuterRect().get().top(), 10 + edit);
 
     // A click on an item chooses it and closes the list.
-    moxietest::pointerTo(itemCentre(drop, 2).d_x, itemCentre(drop, 2).d_y);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(itemCentre(drop, 2).d_x, itemCentre(drop, 2).d_y);
     EXPECT_FALSE(drop.isVisible());
     EXPECT_EQ(combo.getText(), "Copenhagen");
     EXPECT_EQ(combo.getSelectedItem()->getText(), "Copenhagen");

@@ -28,18 +28,10 @@ PopupMenu& popupOf(MenuItem& owner)
     return popup;
 }
 
-Vector2f centre(const Window& w)
-{
-    const Rectf r = w.getUnclippedOuterRect().get();
-    return Vector2f((r.left() + r.right()) / 2, (r.top() + r.bottom()) / 2);
-}
-
 void clickOn(const Window& w)
 {
-    const Vector2f c = centre(w);
-    moxietest::pointerTo(c.d_x, c.d_y);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    const Vector2f c = moxietest::centreOf(w);
+    moxietest::click(c.d_x, c.d_y);
 }
 
 void pulse()
@@ -144,18 +136,18 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     System::getSingleton().renderAllGUIContexts();
 
     // Moving across the bar while a menu is open opens the next one.
-    const Vector2f e = centre(*edit);
+    const Vector2f e = moxietest::centreOf(*edit);
     moxietest::pointerTo(e.d_x, e.d_y);
     pulse();
     EXPECT_TRUE(editMenu->isPopupMenuOpen());
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
 
     // Back on File (open again by hovering, the bar being active), a sub-menu opens on hover.
-    const Vector2f f = centre(*file);
+    const Vector2f f = moxietest::centreOf(*file);
     moxietest::pointerTo(f.d_x, f.d_y);
     pulse();
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
-    const Vector2f r = centre(*recent);
+    const Vector2f r = moxietest::centreOf(*recent);
     moxietest::pointerTo(r.d_x, r.d_y);
     pulse();
     pulse();
@@ -183,7 +175,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     // So does one on the bare sheet, which changes no window's activation; one in a sub-menu
     // chooses its item.
     clickOn(*file);
-    const Vector2f rc = centre(*recent);
+    const Vector2f rc = moxietest::centreOf(*recent);
     moxietest::pointerTo(rc.d_x, rc.d_y);
     pulse();
     pulse();
@@ -194,9 +186,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     EXPECT_EQ(reopened, 1);
     clickOn(*file);
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
-    moxietest::pointerTo(600, 300);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(600, 300);
     pulse();
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
 
@@ -206,9 +196,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     item(context, "MoxieLook/PopupMenuItem", "Cut");
     context.openPopupMenu();
     ASSERT_TRUE(context.isPopupMenuOpen());
-    moxietest::pointerTo(600, 300);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(600, 300);
     pulse();
     EXPECT_FALSE(context.isPopupMenuOpen());
 
@@ -221,9 +209,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
                         [&once] { WindowManager::getSingleton().destroyWindow(&once); });
     clickOn(tools);
     ASSERT_TRUE(tools.getPopupMenu()->isPopupMenuOpen());
-    moxietest::pointerTo(600, 200);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(600, 200);
     EXPECT_FALSE(WindowManager::getSingleton().isAlive(&once));
     WindowManager::getSingleton().cleanDeadPool();
     moxietest::leftDown(); // nobody left listening for it
@@ -233,7 +219,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
 TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
 {
     clickOn(*file);
-    const Vector2f o = centre(*open);
+    const Vector2f o = moxietest::centreOf(*open);
     moxietest::pointerTo(o.d_x, o.d_y);
     EXPECT_EQ(menuItemStateOf(*open), MenuItemState::Hover);
     auto names = moxietest::imageNames(moxietest::drawnBy(*open));
@@ -258,7 +244,7 @@ TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
     int separatorClicks = 0;
     separator.subscribeEvent(MenuItem::EventClicked, [&] { ++separatorClicks; });
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
-    const Vector2f s = centre(separator);
+    const Vector2f s = moxietest::centreOf(separator);
     moxietest::pointerTo(s.d_x, s.d_y);
     EXPECT_EQ(menuItemStateOf(separator), MenuItemState::Normal);
     moxietest::leftDown();

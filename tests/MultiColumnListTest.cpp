@@ -164,9 +164,7 @@ TEST_F(MultiColumnListTest, HeaderClicksDoNotSortTheExtendedList)
     EXPECT_FALSE(list.isUserColumnDraggingEnabled()); // the saved rows keep column order
     list.setItem(cell("zzz"), 0, 0);
     const Rectf name = list.getHeaderSegmentForColumn(0).getUnclippedOuterRect().get();
-    moxietest::pointerTo(name.left() + 20, name.top() + 5);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(name.left() + 20, name.top() + 5);
     EXPECT_EQ(gridIds(list), (std::vector<uint>{0, 1, 2}));
     EXPECT_EQ(gridText(list, 0, 0), "zzz");
 }
@@ -273,8 +271,6 @@ TEST_F(MultiColumnListTest, TreeColumnsFollowTheirSegments)
                             clicked.push_back(static_cast<const TreeView::ItemEventArgs&>(a).node);
                         });
     const Rectf line = file->GetHitRect();
-    moxietest::pointerTo(line.left() + 150 + 130 + 40, line.top() + 4);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(line.left() + 150 + 130 + 40, line.top() + 4);
     EXPECT_EQ(clicked, (std::vector<TreeView::Node*>{file}));
 }

@@ -96,9 +96,7 @@ TEST_F(NodeItemTest, SelectionSpreadsUpAndDeselectsSiblingsAndSubtrees)
     // A click on a node's button toggles it.
     frame();
     const Rectf button = b.GetButton()->getUnclippedOuterRect().get();
-    moxietest::pointerTo(button.left() + 5, button.top() + 5);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(button.left() + 5, button.top() + 5);
     EXPECT_TRUE(b.IsSelected());
 
     // With multi selection the siblings stay selected.

@@ -39,12 +39,6 @@ Rectf local(const Window& window)
     return Rectf(outer.d_min - origin, outer.getSize());
 }
 
-Vector2f centre(const Window& window)
-{
-    const Rectf r = window.getUnclippedOuterRect().get();
-    return Vector2f((r.left() + r.right()) / 2, (r.top() + r.bottom()) / 2);
-}
-
 bool contains(const std::vector<std::string>& names, const std::string& name)
 {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -131,25 +125,19 @@ TEST(Scrollbar, DraggingTheThumbAndClickingTrackAndButtonsMoveThePosition)
 
     // Track clicks move a page (20) toward the click.
     const Rectf thumb = horz.getThumb()->getUnclippedOuterRect().get();
-    moxietest::pointerTo(thumb.right() + 20, 19);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(thumb.right() + 20, 19);
     EXPECT_FLOAT_EQ(horz.getScrollPosition(), 60);
-    moxietest::pointerTo(30, 19);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(30, 19);
     EXPECT_FLOAT_EQ(horz.getScrollPosition(), 40);
 
     // The arrow buttons move a step (5).
-    const Vector2f increase = centre(*horz.getIncreaseButton());
-    moxietest::pointerTo(increase.d_x, increase.d_y);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    const Vector2f increase = moxietest::centreOf(*horz.getIncreaseButton());
+    moxietest::click(increase.d_x, increase.d_y);
     EXPECT_FLOAT_EQ(horz.getScrollPosition(), 45);
 
     // Dragging the thumb by 42 pixels moves the position by 42 / (134.4 / 80) = 25, give or
     // take the whole-pixel placement of the thumb (0.6 of a position).
-    const Vector2f grab = centre(*horz.getThumb());
+    const Vector2f grab = moxietest::centreOf(*horz.getThumb());
     moxietest::pointerTo(grab.d_x, grab.d_y);
     moxietest::leftDown();
     moxietest::pointerTo(grab.d_x + 21, grab.d_y + 3);
@@ -158,7 +146,7 @@ TEST(Scrollbar, DraggingTheThumbAndClickingTrackAndButtonsMoveThePosition)
     EXPECT_NEAR(horz.getScrollPosition(), 70, 0.6f);
 
     // Past the end the thumb stops at the end of its track.
-    const Vector2f again = centre(*horz.getThumb());
+    const Vector2f again = moxietest::centreOf(*horz.getThumb());
     moxietest::pointerTo(again.d_x, again.d_y);
     moxietest::leftDown();
     moxietest::pointerTo(again.d_x + 300, again.d_y);
@@ -261,9 +249,7 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     EXPECT_EQ(slider.ticks().count, 0);
 
     // Clicking right of the thumb steps the value up; the thumb follows.
-    moxietest::pointerTo(200, 30);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(200, 30);
     EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.501f);
 }
 
@@ -370,9 +356,7 @@ TEST(Scrollbar, AHostSubclassOverridesWhatTheRendererAsks)
     WindowFactoryManager::getSingleton().addFactory(&factory);
     Scrollbar& reversed = bar("Host/ReversedBar", 10, 10, 200, 18, 100, 20, 40);
     const Rectf thumb = reversed.getThumb()->getUnclippedOuterRect().get();
-    moxietest::pointerTo(thumb.right() + 20, 19);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(thumb.right() + 20, 19);
     EXPECT_FLOAT_EQ(reversed.getScrollPosition(), 20);
     moxietest::freshSheet();
     WindowFactoryManager::getSingleton().removeFactory("Host/ReversedBar");

@@ -179,9 +179,7 @@ TEST_F(TabTest, ClickingATabSelectsItAndShowsItsContent)
     EXPECT_TRUE(button("One").isSelected());
 
     const Rectf tab = button("Two").getUnclippedOuterRect().get();
-    moxietest::pointerTo(tab.left() + 5, tab.top() + 10);
-    moxietest::leftDown();
-    moxietest::leftUp();
+    moxietest::click(tab.left() + 5, tab.top() + 10);
     EXPECT_TRUE(button("Two").isSelected());
     EXPECT_FALSE(button("One").isSelected());
     EXPECT_TRUE(two.isVisible());

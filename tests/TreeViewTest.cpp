@@ -59,12 +59,7 @@ protected:
         return Vector2f(hit.left() + dx, hit.top() + dy);
     }
 
-    void click(const Vector2f& at)
-    {
-        moxietest::pointerTo(at.d_x, at.d_y);
-        moxietest::leftDown();
-        moxietest::leftUp();
-    }
+    void click(const Vector2f& at) { moxietest::click(at.d_x, at.d_y); }
 
     TreeView* tree = nullptr;
     std::vector<std::string> events;

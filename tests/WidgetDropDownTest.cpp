@@ -32,13 +32,6 @@ protected:
                          i % 2 ? "IconStar" : "");
     }
 
-    void click(float x, float y)
-    {
-        moxietest::pointerTo(x, y);
-        moxietest::leftDown();
-        moxietest::leftUp();
-    }
-
     Vector2f centreOf(const WidgetDropDownList::Item& item) const
     {
         const Vector2f origin = list->getUnclippedOuterRect().get().d_min;
@@ -110,7 +103,7 @@ TEST_F(WidgetDropDownTest, OpenChooseAndCloseByClicksWithTooltips)
     int changes = 0;
     box->subscribeEvent(WidgetDropDownListbox::EventSelectionChanged, [&] { ++changes; });
 
-    click(60, 30); // on the box: opens
+    moxietest::click(60, 30); // on the box: opens
     ASSERT_TRUE(list->isVisible());
     EXPECT_TRUE(list->isAlwaysOnTop());
     System::getSingleton().renderAllGUIContexts(); // rows get their areas
@@ -128,13 +121,13 @@ TEST_F(WidgetDropDownTest, OpenChooseAndCloseByClicksWithTooltips)
     System::getSingleton().renderAllGUIContexts();
     const Rectf outer = list->getUnclippedOuterRect().get();
     box->setTooltipText("stale");
-    click(outer.left() + 20, outer.bottom() - 6);
+    moxietest::click(outer.left() + 20, outer.bottom() - 6);
     EXPECT_TRUE(list->isVisible());
     EXPECT_EQ(box->getTooltipText(), "");
     EXPECT_EQ(changes, 0);
 
     const Vector2f third = centreOf(list->GetItem(2));
-    click(third.d_x, third.d_y);
+    moxietest::click(third.d_x, third.d_y);
     EXPECT_EQ(changes, 1);
     EXPECT_FALSE(list->isVisible());
     EXPECT_EQ(box->GetSelectedIndex(), 2);
@@ -144,9 +137,9 @@ TEST_F(WidgetDropDownTest, OpenChooseAndCloseByClicksWithTooltips)
     // its activation).
     moxietest::place("MoxieLook/Button", 600, 400, 100, 30);
     const Rectf button = box->getButton()->getUnclippedOuterRect().get();
-    click(button.left() + 5, button.top() + 5);
+    moxietest::click(button.left() + 5, button.top() + 5);
     EXPECT_TRUE(list->isVisible());
-    click(650, 415);
+    moxietest::click(650, 415);
     EXPECT_FALSE(list->isVisible());
     EXPECT_EQ(changes, 1);
 }
@@ -168,26 +161,26 @@ TEST_F(WidgetDropDownTest, AtTheBottomTheListOpensAboveAndStillChooses)
     fill(8);
     int changes = 0;
     box->subscribeEvent(WidgetDropDownListbox::EventSelectionChanged, [&] { ++changes; });
-    click(60, 30);
+    moxietest::click(60, 30);
     System::getSingleton().renderAllGUIContexts();
     EXPECT_EQ(list->getUnclippedOuterRect().get().top(), 46); // below, where it fits
-    click(60, 30);
+    moxietest::click(60, 30);
 
     box->setPosition(UVector2(cegui_absdim(20), cegui_absdim(560)));
     const Rectf closed = box->getUnclippedOuterRect().get();
     for (int round = 0; round < 2; ++round) // open, close and open again
     {
-        click(closed.left() + 40, closed.top() + 10);
+        moxietest::click(closed.left() + 40, closed.top() + 10);
         ASSERT_TRUE(list->isVisible());
         System::getSingleton().renderAllGUIContexts();
         const Rectf open = list->getUnclippedOuterRect().get();
         EXPECT_EQ(open.bottom(), closed.top());
         EXPECT_GE(open.top(), 0);
         if (round == 0)
-            click(closed.left() + 40, closed.top() + 10);
+            moxietest::click(closed.left() + 40, closed.top() + 10);
     }
     const Vector2f at = centreOf(list->GetItem(2));
-    click(at.d_x, at.d_y);
+    moxietest::click(at.d_x, at.d_y);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(box->GetSelectedIndex(), 2);
     EXPECT_FALSE(list->isVisible());
