@@ -164,6 +164,20 @@ void renderFrame(float elapsed)
     System::getSingleton().renderAllGUIContexts();
 }
 
+// The interactive loop: input, time and drawing until the window is closed.
+void runUntilClosed(GLFWwindow* window)
+{
+    double last = glfwGetTime();
+    while (!glfwWindowShouldClose(window))
+    {
+        glfwPollEvents();
+        const double now = glfwGetTime();
+        renderFrame(static_cast<float>(now - last));
+        last = now;
+        glfwSwapBuffers(window);
+    }
+}
+
 gallery::Picture readBack(const Rectf& area)
 {
     gallery::Picture picture;
@@ -288,15 +302,7 @@ int viewLayout(GLFWwindow* window, const Options& options)
         return 0;
     }
     forwardInput(window, nullptr);
-    double last = glfwGetTime();
-    while (!glfwWindowShouldClose(window))
-    {
-        glfwPollEvents();
-        const double now = glfwGetTime();
-        renderFrame(static_cast<float>(now - last));
-        last = now;
-        glfwSwapBuffers(window);
-    }
+    runUntilClosed(window);
     return 0;
 }
 } // namespace
@@ -364,15 +370,7 @@ int main(int argc, char** argv)
             for (const gallery::GalleryPage::CardInfo& card : page.cards())
                 if (card.whenShown)
                     card.whenShown();
-            double last = glfwGetTime();
-            while (!glfwWindowShouldClose(window))
-            {
-                glfwPollEvents();
-                const double now = glfwGetTime();
-                renderFrame(static_cast<float>(now - last));
-                last = now;
-                glfwSwapBuffers(window);
-            }
+            runUntilClosed(window);
         }
     }
 

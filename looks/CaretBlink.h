@@ -53,6 +53,48 @@ struct CaretBlink
     }
 };
 
+//! The blinking caret of an edit box look `Box` (which has `hasInputFocus`, `isReadOnly` and
+//! `invalidate`), with CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
+template <typename Box>
+class BlinkingCaret
+{
+public:
+    virtual ~BlinkingCaret() = default;
+
+    void setBlinkCaret(bool blink)
+    {
+        d_blink.enabled = blink;
+        restartBlink();
+    }
+    bool isBlinkCaret() const { return d_blink.enabled; }
+    void setBlinkCaretTimeout(float seconds)
+    {
+        d_blink.setPeriod(seconds);
+        restartBlink();
+    }
+    float getBlinkCaretTimeout() const { return d_blink.period; }
+    bool isCaretShown() const { return d_blink.shown; }
+
+    //! Time passes; the caret turns only while the box takes typing. Virtual, so that a
+    //! host's look can change it.
+    virtual void updateCaretBlink(float elapsed)
+    {
+        Box& box = static_cast<Box&>(*this);
+        if (box.hasInputFocus() && !box.isReadOnly() && d_blink.advance(elapsed))
+            box.invalidate();
+    }
+
+protected:
+    //! A caret that just moved is shown at once.
+    void restartBlink()
+    {
+        d_blink.restart();
+        static_cast<Box&>(*this).invalidate();
+    }
+
+    CaretBlink d_blink;
+};
+
 //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout" on an edit box look that has
 //! `setBlinkCaret`, `isBlinkCaret`, `setBlinkCaretTimeout` and `getBlinkCaretTimeout`.
 template <typename Owner>

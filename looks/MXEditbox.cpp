@@ -135,30 +135,6 @@ void MXEditbox::populateGeometryBuffer()
     }
 }
 
-void MXEditbox::updateCaretBlink(float elapsed)
-{
-    if (hasInputFocus() && !isReadOnly() && d_blink.advance(elapsed))
-        invalidate();
-}
-
-void MXEditbox::restartBlink()
-{
-    d_blink.restart();
-    invalidate();
-}
-
-void MXEditbox::setBlinkCaret(bool blink)
-{
-    d_blink.enabled = blink;
-    restartBlink();
-}
-
-void MXEditbox::setBlinkCaretTimeout(float seconds)
-{
-    d_blink.setPeriod(seconds);
-    restartBlink();
-}
-
 void MXEditbox::onCaretMoved(WindowEventArgs& e)
 {
     EditboxEx::onCaretMoved(e);

@@ -15,7 +15,7 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class MXEditbox : public EditboxEx
+class MXEditbox : public EditboxEx, public BlinkingCaret<MXEditbox>
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/Editbox";
@@ -29,7 +29,6 @@ public:
     // What CEGUI's Editbox asks its renderer for, and the renderer's own calls.
     virtual std::size_t textIndexAt(const Vector2f& screenPoint) const;
     void populateGeometryBuffer() override;
-    virtual void updateCaretBlink(float elapsed);
 
     //! The text area, window-local: inside the frame and its padding.
     Rectf textArea() const;
@@ -37,15 +36,9 @@ public:
     String visualText() const;
     //! Where the text starts from the text area's left, as last drawn.
     float textOffset() const { return d_textOffset; }
-    bool isCaretShown() const { return d_blink.shown; }
     EditboxImagery& imagery() { return d_imagery; }
     const EditboxImagery& imagery() const { return d_imagery; }
 
-    //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
-    void setBlinkCaret(bool blink);
-    bool isBlinkCaret() const { return d_blink.enabled; }
-    void setBlinkCaretTimeout(float seconds);
-    float getBlinkCaretTimeout() const { return d_blink.period; }
     //! CEGUI's core renderer's "TextFormatting": where a text that fits stands
     //! ("LeftAligned", "RightAligned" or "CentreAligned"; others are refused, as there).
     void setTextFormatting(const String& name);
@@ -59,10 +52,7 @@ protected:
     EditboxImagery d_imagery;
 
 private:
-    void restartBlink();
-
     float d_textOffset = 0.0f;
-    CaretBlink d_blink;
     NamedHorzFormat d_alignment{HorzTextFormat::Left, "LeftAligned"};
 };
 

@@ -172,30 +172,6 @@ void MXMultiLineEditBox::notifyScreenAreaChanged(bool recursive)
         invalidate(false);
 }
 
-void MXMultiLineEditBox::updateCaretBlink(float elapsed)
-{
-    if (hasInputFocus() && !isReadOnly() && d_blink.advance(elapsed))
-        invalidate();
-}
-
-void MXMultiLineEditBox::restartBlink()
-{
-    d_blink.restart();
-    invalidate();
-}
-
-void MXMultiLineEditBox::setBlinkCaret(bool blink)
-{
-    d_blink.enabled = blink;
-    restartBlink();
-}
-
-void MXMultiLineEditBox::setBlinkCaretTimeout(float seconds)
-{
-    d_blink.setPeriod(seconds);
-    restartBlink();
-}
-
 void MXMultiLineEditBox::onTextChanged(WindowEventArgs& e)
 {
     RedrawnWhenUncovered<MultiLineEditbox>::onTextChanged(e);

@@ -18,7 +18,8 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
-class MXMultiLineEditBox : public RedrawnWhenUncovered<MultiLineEditbox>
+class MXMultiLineEditBox : public RedrawnWhenUncovered<MultiLineEditbox>,
+                           public BlinkingCaret<MXMultiLineEditBox>
 {
 public:
     static constexpr char WidgetTypeName[] = "MoxieLook/MultiLineEditbox";
@@ -38,17 +39,10 @@ public:
     // What CEGUI's MultiLineEditbox asks its renderer for, and the renderer's own calls.
     virtual Rectf textRenderArea() const;
     void populateGeometryBuffer() override;
-    virtual void updateCaretBlink(float elapsed);
     void notifyScreenAreaChanged(bool recursive = true) override;
 
     EditboxImagery& imagery() { return d_imagery; }
     const EditboxImagery& imagery() const { return d_imagery; }
-
-    //! CEGUI's core renderer's "BlinkCaret" and "BlinkCaretTimeout".
-    void setBlinkCaret(bool blink);
-    bool isBlinkCaret() const { return d_blink.enabled; }
-    void setBlinkCaretTimeout(float seconds);
-    float getBlinkCaretTimeout() const { return d_blink.period; }
 
 protected:
     void onTextChanged(WindowEventArgs& e) override;
@@ -60,9 +54,7 @@ protected:
 private:
     void layOutBars();
     void drawLines(GeometryBuffer& buffer, const Rectf& area);
-    void restartBlink();
 
-    CaretBlink d_blink;
     ClipWatch d_clipWatch;
 };
 
