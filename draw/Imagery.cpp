@@ -40,6 +40,11 @@ ColourRect withAlpha(ColourRect colours, float alpha)
     return colours;
 }
 
+Colour opaque(Colour colour)
+{
+    return withAlpha(colour, 1.0f);
+}
+
 ColourRect faded(ColourRect colours, float alpha)
 {
     colours.modulateAlpha(alpha);

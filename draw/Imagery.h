@@ -27,6 +27,9 @@ const Image& lookImage(const char* name);
 Colour withAlpha(Colour colour, float alpha);
 ColourRect withAlpha(ColourRect colours, float alpha);
 
+//! A constant as a host would give it: opaque, so that faded() leaves the window's alpha.
+Colour opaque(Colour colour);
+
 //! Colours a host chose keep their own alpha, faded by the window's.
 ColourRect faded(ColourRect colours, float alpha);
 

@@ -43,10 +43,11 @@ MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, 
     d_background = &lookImage(BackgroundImageName);
     setMouseCursor(&lookImage(MouseCursorImageName));
 
-    setNormalTextColour(EnabledTextLabelColour);
-    setHoverTextColour(EnabledTextLabelColour);
-    setPushedTextColour(EnabledTextLabelColour);
-    setDisabledTextColour(DisabledTextLabelColour);
+    // Held opaque so that a colour a host gives keeps its own alpha when drawn.
+    setNormalTextColour(opaque(EnabledTextLabelColour));
+    setHoverTextColour(opaque(EnabledTextLabelColour));
+    setPushedTextColour(opaque(EnabledTextLabelColour));
+    setDisabledTextColour(opaque(DisabledTextLabelColour));
 
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXButton, HorizontalFormatting, "HorzImageFormatting",
@@ -169,7 +170,7 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
             customImage.setHorzFormatting(formattingOf(*d_horzImageFormatting));
         if (d_vertImageFormatting)
             customImage.setVertFormatting(formattingOf(*d_vertImageFormatting));
-        customImage.setColours(withAlpha(customImage.getColours(), alpha));
+        customImage.setColours(customImageColours(customImage.getColours(), alpha));
         const Rectf seen = seenForDrawing();
         customImage.draw(buffer, area.d_min, nullptr, &seen);
     }
@@ -188,7 +189,12 @@ void MXButton::drawState(const Colour& primary, const Colour& secondary,
     const Rectf textArea(area.left() + xOffset, area.top() + yOffset, area.right(), area.bottom());
     drawText(*this, buffer, getRenderedString(), textArea, d_horzLabel.value,
              oneCentredLine ? VertTextFormat::Top : d_vertLabel.value,
-             ColourRect(withAlpha(textColour, alpha)), nullptr);
+             faded(ColourRect(textColour), alpha), nullptr);
+}
+
+ColourRect MXButton::customImageColours(const ColourRect& own, float alpha) const
+{
+    return withAlpha(own, alpha);
 }
 
 void MXButton::onSized(ElementEventArgs& e)
@@ -267,6 +273,11 @@ void MXImageButton::drawTinted(const Colour& primary, const Colour& secondary,
     } restore{image, image.getColours()};
     image.setColours(tint);
     drawState(primary, secondary, frame, image.getImage() != nullptr, image, textColour);
+}
+
+ColourRect MXImageButton::customImageColours(const ColourRect& own, float alpha) const
+{
+    return faded(own, alpha);
 }
 
 void MXImageButton::drawNormal()

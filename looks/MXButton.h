@@ -102,6 +102,8 @@ protected:
     //! One state's picture: fill, frame, custom image, text.
     void drawState(const Colour& primary, const Colour& secondary, const NinePieceFrame& frame,
                    bool useCustomImage, FormattedImage& customImage, const Colour& textColour);
+    //! The custom image's colours as drawn: the window's alpha in place of their own.
+    virtual ColourRect customImageColours(const ColourRect& own, float alpha) const;
 
     NinePieceFrame d_normalFrame;
     NinePieceFrame d_hoverFrame;
@@ -143,6 +145,8 @@ protected:
     void drawHover() override;
     void drawPushed() override;
     void drawDisabled() override;
+    //! A tint is the host's colour: its alpha is kept, faded by the window's.
+    ColourRect customImageColours(const ColourRect& own, float alpha) const override;
 
 private:
     //! Draws a state showing `image`, tinted `tint` for this draw only.

@@ -20,8 +20,7 @@ const Colour SelectableShading::DisabledTextLabelColour(0x00888888);
 void drawSelectable(Window& window, const SelectablePicture& picture, const Colour& textColour,
                     float padding)
 {
-    // The look's own colours carry no alpha: the window's is theirs.
-    drawSelectable(window, picture, ColourRect(withAlpha(textColour, 1.0f)), padding);
+    drawSelectable(window, picture, ColourRect(textColour), padding);
 }
 
 void drawSelectable(Window& window, const SelectablePicture& picture, const ColourRect& textColours,
@@ -43,10 +42,11 @@ namespace
 {
 void useSelectableTextColours(PushButtonEx& button)
 {
-    button.setNormalTextColour(SelectableShading::EnabledTextLabelColour);
-    button.setHoverTextColour(SelectableShading::EnabledTextLabelColour);
-    button.setPushedTextColour(SelectableShading::EnabledTextLabelColour);
-    button.setDisabledTextColour(SelectableShading::DisabledTextLabelColour);
+    // Held opaque so that a colour a host gives keeps its own alpha when drawn.
+    button.setNormalTextColour(opaque(SelectableShading::EnabledTextLabelColour));
+    button.setHoverTextColour(opaque(SelectableShading::EnabledTextLabelColour));
+    button.setPushedTextColour(opaque(SelectableShading::EnabledTextLabelColour));
+    button.setDisabledTextColour(opaque(SelectableShading::DisabledTextLabelColour));
 }
 
 const Colour& textColourOf(const PushButtonEx& button, ButtonDrawState state)

@@ -61,32 +61,32 @@ MXTabButton::MXTabButton(const String& type, const String& name)
                                  "Property to get/set the label colour of a tab at rest. Value is "
                                  "\"aarrggbb\" (or four corners, of which the top-left is taken).",
                                  &MXTabButton::setNormalTextColour,
-                                 &MXTabButton::getNormalTextColour, Colour(EnabledTextLabelColour));
+                                 &MXTabButton::getNormalTextColour, opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(
         MXTabButton, "PushedTextColour",
         "Property to get/set the label colour of a selected, pressed or hovered "
         "tab. "
         "Value is \"aarrggbb\".",
         &MXTabButton::setPushedTextColour, &MXTabButton::getPushedTextColour,
-        Colour(EnabledTextLabelColour));
+        opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(
         MXTabButton, "HoverTextColour",
         "Property to get/set the label's colour under the pointer. Value is "
         "\"aarrggbb\" (or four corners, of which the top-left is taken).",
         &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
-        Colour(EnabledTextLabelColour));
+        opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "SelectedTextColour",
                                  "Property to get/set the selected tab's label colour. Value is "
                                  "\"aarrggbb\" (or four corners, of which the top-left is taken).",
                                  &MXTabButton::setSelectedTextColour,
                                  &MXTabButton::getSelectedTextColour,
-                                 Colour(EnabledTextLabelColour));
+                                 opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "DisabledTextColour",
                                  "Property to get/set the label colour of a disabled tab. Value is "
                                  "\"aarrggbb\" (or four corners, of which the top-left is taken).",
                                  &MXTabButton::setDisabledTextColour,
                                  &MXTabButton::getDisabledTextColour,
-                                 Colour(DisabledTextLabelColour));
+                                 opaque(DisabledTextLabelColour));
 }
 
 void MXTabButton::setNormalTextColour(const Colour& colour)
@@ -239,7 +239,7 @@ void MXTabButton::drawLabel(float top, const Colour& colour)
     const Sizef area = getPixelSize();
     drawText(*this, getGeometryBuffer(), getRenderedString(),
              Rectf(0, top, area.d_width, area.d_height), HorzTextFormat::Centred,
-             VertTextFormat::Top, ColourRect(withAlpha(colour, getEffectiveAlpha())), nullptr);
+             VertTextFormat::Top, faded(ColourRect(colour), getEffectiveAlpha()), nullptr);
 }
 
 } // namespace MoxieLook

@@ -97,9 +97,10 @@ private:
     const Image* d_upperSelected;
     std::optional<Colour> d_hoverTextColour;
     std::optional<Colour> d_selectedTextColour;
-    Colour d_normalTextColour{EnabledTextLabelColour};
-    Colour d_pushedTextColour{EnabledTextLabelColour};
-    Colour d_disabledTextColour{DisabledTextLabelColour};
+    // Opaque: a colour a host gives keeps its own alpha when drawn.
+    Colour d_normalTextColour{opaque(EnabledTextLabelColour)};
+    Colour d_pushedTextColour{opaque(EnabledTextLabelColour)};
+    Colour d_disabledTextColour{opaque(DisabledTextLabelColour)};
 };
 
 using MXTabButtonFactory = LookFactory<MXTabButton>;

@@ -1221,7 +1221,7 @@ TEST_F(StockSkinTypesTest, EveryStockTintReachesWhatItsStateDraws)
          "IconStar",
          {{"IconImage", "MoxieLook/IconStar"}}},
     };
-    argb_t colour = 0xFF102030;
+    argb_t colour = 0x80102030; // half-transparent: the colour's own alpha must reach the drawing
     for (const Tint& tint : tints)
     {
         SCOPED_TRACE(std::string(tint.type) + " " + tint.property);

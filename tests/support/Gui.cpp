@@ -61,6 +61,9 @@ void startGui()
     resources->setDefaultResourceGroup("moxielook");
 
     CEGUI::SchemeManager::getSingleton().createFromFile("MoxieLook.scheme");
+    // Named, as an application names it: unset, CEGUI takes whichever font sorts first, and
+    // a test that loads another would change every later test's text.
+    context().setDefaultFont("MoxieLook-10");
     // Injected presses come faster than any hand: never let two fold into a double-click.
     context().setMouseButtonMultiClickTimeout(1e-9); // 0 would mean "no limit"
     hearSounds();
