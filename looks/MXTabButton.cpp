@@ -123,12 +123,16 @@ void MXTabButton::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;
-    if (isHovering())
+    // A disabled tab control greys its tabs too; the selected one keeps its shape.
+    if (isEffectiveDisabled() && isSelected())
+        drawSelectedSet(0, withAlpha(ColourRect(SelectedMiddleColour), getEffectiveAlpha()),
+                        d_disabledTextColour);
+    else if (isEffectiveDisabled())
+        drawDisabled();
+    else if (isHovering())
         drawHover();
     else if (isPushed() || isSelected())
         drawPushed();
-    else if (isDisabled())
-        drawDisabled();
     else
         drawNormal();
 }

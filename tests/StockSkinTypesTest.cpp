@@ -605,6 +605,18 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     EXPECT_EQ(made->getText(), "third");
     WindowFactoryManager::getSingleton().removeWindowTypeAlias("Test/OwnTab",
                                                                "MoxieLook/TabButton");
+
+    // A disabled control greys every tab's text; the selected tab keeps its raised shape.
+    addPage(other, "fourth");
+    other.disable();
+    Window* buttons = other.getChild(TabControl::TabButtonPaneName);
+    for (size_t i = 0; i < 2; ++i)
+    {
+        const auto drawn = drawnBy(*buttons->getChildAtIdx(i));
+        EXPECT_EQ(argb(find(drawn, "text")->colours.d_top_left), 0xFF888888u);
+        EXPECT_EQ(find(drawn, "TabButtonUpperSelected").has_value(),
+                  static_cast<TabButton*>(buttons->getChildAtIdx(i))->isSelected());
+    }
 }
 
 TEST_F(StockSkinTypesTest, SwitchedOffBarsAndFramesLeaveAndChildrenFollowTheInnerArea)
