@@ -101,4 +101,20 @@ for kind in sorted(stock):
     for prop in stock[kind]:
         status = "taken: " + NOTES.get(prop, "drawn as the stock skin does")
         lines.append(f'| {kind} | "{prop}" | {status} |')
+lines += [
+    "", "## Where MoxieLook differs", "",
+    "- \"VerticalScrollbar\" and \"VerticalSlider\" read the type's orientation and refuse the",
+    "  other with an exception naming the type: MoxieLook's arrows, thumbs and imagery serve one",
+    "  orientation per type (the stock skins would move the thumb upright over sideways imagery).",
+    "  For the scroll bars, use the type of the other orientation; MoxieLook has no upright",
+    "  slider yet (nor a stock skin, as a type of its own).",
+    "- \"MoxieLook/StaticImage\" starts with its frame and background off (the module's own",
+    "  legend icons and overlays rely on a bare picture) and \"MoxieLook/GroupBox\" with its",
+    "  background off: \"FrameColours\" and \"BackgroundColours\" show once \"FrameEnabled\" or",
+    "  \"BackgroundEnabled\" is set, as a stock layout that wants them does.",
+    "- \"BorderWidth\" on a menu bar reads back the bar's own spacing at its ends while unset.",
+    "  Items on a bar are centred upright, so the width applies visibly at the ends only.",
+    "- A tab under the pointer is drawn in its hover shape even while held; a selected tab looks",
+    "  the same hovered or pushed.",
+]
 (root / "docs/stock-properties.md").write_text("\n".join(lines) + "\n")
