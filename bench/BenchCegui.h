@@ -2,6 +2,11 @@
 // TaharezLook loaded side by side.
 #pragma once
 
+namespace benchmark
+{
+class State;
+}
+
 namespace CEGUI
 {
 class Window;
@@ -13,4 +18,7 @@ void startCegui();
 void stopCegui();
 //! The root window of the default GUI context.
 CEGUI::Window& sheet();
+//! A target the report checks: the counter `what` (or "time_us", the mean time of one
+//! iteration in microseconds) at most `limit`.
+void target(benchmark::State& state, const char* what, double limit);
 } // namespace moxiebench

@@ -14,6 +14,8 @@ using namespace CEGUI;
 
 namespace moxiebench
 {
+constexpr char TargetSuffix[] = "<=";
+
 void startCegui()
 {
     setenv("CEGUI_MODULE_DIR", MOXIE_MODULE_DIR, 0);
@@ -46,6 +48,11 @@ Window& sheet()
 {
     return *System::getSingleton().getDefaultGUIContext().getRootWindow();
 }
+
+void target(benchmark::State& state, const char* what, double limit)
+{
+    state.counters[std::string(what) + TargetSuffix] = limit;
+}
 } // namespace moxiebench
 
 namespace
@@ -59,8 +66,25 @@ public:
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs)
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                d_times[run.benchmark_name()] = run.GetAdjustedRealTime();
+        {
+            if (run.run_type != Run::RT_Iteration || run.error_occurred)
+                continue;
+            d_times[run.benchmark_name()] = run.GetAdjustedRealTime();
+            const double micros =
+                run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e6;
+            for (const auto& [name, counter] : run.counters)
+            {
+                const std::string::size_type at = name.rfind(moxiebench::TargetSuffix);
+                if (at == std::string::npos || at + 2 != name.size())
+                    continue;
+                const std::string what = name.substr(0, at);
+                const auto figure = run.counters.find(what);
+                const double value = what == "time_us"              ? micros
+                                     : figure != run.counters.end() ? figure->second.value
+                                                                    : -1.0;
+                d_targets.push_back({run.benchmark_name() + " " + what, value, counter.value});
+            }
+        }
     }
 
     void Finalize() override
@@ -90,10 +114,27 @@ public:
                 << std::setprecision(2) << std::setw(12) << moxie << std::setw(12) << other->second
                 << std::setw(8) << moxie / other->second << "\n";
         }
+        if (d_targets.empty())
+            return;
+        out << "\n"
+            << std::left << std::setw(60) << "Targets" << std::right << std::setw(14) << "figure"
+            << std::setw(14) << "target"
+            << "\n";
+        for (const Target& t : d_targets)
+            out << std::left << std::setw(60) << t.name << std::right << std::fixed
+                << std::setprecision(2) << std::setw(14) << t.figure << std::setw(14) << t.limit
+                << (t.figure >= 0 && t.figure <= t.limit ? "  met" : "  MISSED") << "\n";
     }
 
 private:
+    struct Target
+    {
+        std::string name;
+        double figure;
+        double limit;
+    };
     std::map<std::string, double> d_times;
+    std::vector<Target> d_targets;
 };
 } // namespace
 

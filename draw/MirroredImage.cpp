@@ -34,7 +34,7 @@ void renderMirrored(GeometryBuffer& buffer, const Image& image, const Rectf& des
     const bool flipY = dest.bottom() < dest.top();
     const Rectf box = normalised(dest);
     const auto* basic = dynamic_cast<const BasicImage*>(&image);
-    if ((!flipX && !flipY) || !basic)
+    if (!basic)
     {
         image.render(buffer, box, clip, colours);
         return;

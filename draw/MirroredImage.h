@@ -1,5 +1,7 @@
 // An image drawn into a rectangle that may be given with right left of left or bottom
 // above top: the image is then mirrored on that axis. CEGUI 0.8 skips such rectangles.
+// Edges stay where they are given: CEGUI's own drawing snaps them to whole pixels, which
+// drops a sliver narrower than a pixel or widens it to one.
 #pragma once
 
 #include <CEGUI/ColourRect.h>

@@ -73,6 +73,13 @@ void MXMeasurement::drawInterval(const Rectf& v, const Rectf& p, bool stacked, i
     renderMirrored(buffer, *d_corner, cap, &clip, colours);
 }
 
+void MXMeasurement::drawColumn(const Rectf& area, const Rectf& graph)
+{
+    Diagram& owner = *getOwner();
+    renderMirrored(owner.getGeometryBuffer(), *d_base, area, &graph,
+                   faded(ColourRect(getColour()), owner.getEffectiveAlpha()));
+}
+
 Window* MXMeasurement::createLegendItem()
 {
     WindowManager& windows = WindowManager::getSingleton();

@@ -23,6 +23,8 @@ public:
     using Measurement::Measurement;
 
     void draw(const Rectf& valueArea, const Rectf& pixelArea, bool superImposed) override;
+    //! The base image alone: a column narrower than a pixel shows no slope.
+    void drawColumn(const Rectf& area, const Rectf& graph) override;
     Window* createLegendItem() override;
 
 private:

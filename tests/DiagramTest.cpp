@@ -7,7 +7,10 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Scrollbar.h>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <map>
+#include <random>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -248,4 +251,102 @@ TEST_F(DiagramTest, LabelsAndGridLines)
     EXPECT_NEAR((text.rect.left() + text.rect.right()) / 2, at.d_x, 1.5f);
     EXPECT_GE(text.rect.top(), graph.top() - diagram->getModel().xLabelHeight);
     EXPECT_LE(text.rect.bottom(), graph.top());
+}
+
+namespace
+{
+using Spans = std::map<std::pair<argb_t, long>, std::pair<float, float>>;
+
+// Rows each pixel column has covered, per colour: bases whole, caps as the triangle under
+// their slope (rising from the image's bottom-left corner to its top-right one). Each
+// column is taken from `margin` past its left edge to `margin` before its right one.
+Spans coveredColumns(const std::vector<DrawnQuad>& quads, float margin)
+{
+    Spans spans;
+    for (const DrawnQuad& q : quads)
+    {
+        const bool cap = q.image == "DiagramCorner";
+        if (!cap && q.image != "DiagramBase")
+            continue;
+        const float l = q.mirroredX ? q.rect.right() : q.rect.left();
+        const float r = q.mirroredX ? q.rect.left() : q.rect.right();
+        const float t = q.mirroredY ? q.rect.bottom() : q.rect.top();
+        const float b = q.mirroredY ? q.rect.top() : q.rect.bottom();
+        for (long c = static_cast<long>(std::floor(q.rect.left() - 1)); c < q.rect.right() + 1; ++c)
+        {
+            const float from = std::max<float>(c + margin, q.rect.left());
+            const float to = std::min<float>(c + 1 - margin, q.rect.right());
+            if (!(from < to))
+                continue;
+            float lo = q.rect.top(), hi = q.rect.bottom();
+            if (cap)
+            {
+                const float reach = std::max((from - l) / (r - l), (to - l) / (r - l));
+                lo = std::min(b, b + reach * (t - b));
+                hi = std::max(b, b + reach * (t - b));
+            }
+            const auto key = std::make_pair(moxietest::argb(q.colours.d_top_left), c);
+            auto [at, added] = spans.try_emplace(key, lo, hi);
+            if (!added)
+                at->second = {std::min(at->second.first, lo), std::max(at->second.second, hi)};
+        }
+    }
+    return spans;
+}
+} // namespace
+
+TEST_F(DiagramTest, MergedColumnsCoverWhatEveryIntervalWouldHave)
+{
+    struct Case
+    {
+        const char* name;
+        int measurements;
+        float low, high;
+        bool stacked;
+    };
+    std::mt19937 random(7);
+    for (const Case& c : {Case{"random", 1, 0, 10, false}, Case{"stacked", 3, 0, 5, true},
+                          Case{"sign-changing", 2, -5, 5, false}})
+    {
+        SCOPED_TRACE(c.name);
+        WindowManager::getSingleton().destroyWindow(diagram);
+        SetUp();
+        diagram->setSuperImposed(c.stacked);
+        std::uniform_real_distribution<float> value(c.low, c.high);
+        for (int m = 0; m < c.measurements; ++m)
+        {
+            const String name = PropertyHelper<int>::toString(m);
+            diagram->addMeasurement(name, name, Colour(0xFF000000 | (0x400000u * (m + 1))));
+            for (int x = 0; x < 2400; ++x)
+                diagram->setValue(name, static_cast<float>(x), value(random));
+        }
+        // Eight intervals a pixel, a width whose sums are exact: the intervals' drawing adds
+        // up their positions, which drifts otherwise.
+        diagram->setUnitPixelSize(Sizef(0.125f, -1));
+        const auto merged = drawnBy(*diagram);
+        diagram->setColumnMerging(false);
+        const auto everyInterval = drawnBy(*diagram);
+
+        const float width = diagram->getGraphRect().getWidth();
+        EXPECT_LE(merged.size(), 2 * c.measurements * width + 20); // + frame, field
+        EXPECT_GT(everyInterval.size(), 10 * merged.size());
+        // The intervals' cover over each column, give or take a hundredth of a pixel across
+        // and a hundredth of a value at zero crossings.
+        const Spans inner = coveredColumns(everyInterval, 0.01f);
+        const Spans outer = coveredColumns(everyInterval, -0.01f);
+        const Spans got = coveredColumns(merged, 0.0f);
+        EXPECT_EQ(got.size(), c.measurements * 300u); // 2,399 intervals, 8 a pixel
+        for (const auto& [key, span] : got)
+        {
+            const auto least = inner.find(key);
+            const auto most = outer.find(key);
+            ASSERT_NE(most, outer.end()) << "column " << key.second;
+            if (least == inner.end())
+                continue; // a column the series only touches
+            EXPECT_GE(span.first, most->second.first - 0.5f) << "column " << key.second;
+            EXPECT_LE(span.first, least->second.first + 0.5f) << "column " << key.second;
+            EXPECT_LE(span.second, most->second.second + 0.5f) << "column " << key.second;
+            EXPECT_GE(span.second, least->second.second - 0.5f) << "column " << key.second;
+        }
+    }
 }

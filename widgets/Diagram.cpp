@@ -27,11 +27,9 @@ void Measurement::initialise()
     d_legendItem = createLegendItem();
 }
 
-float Measurement::getValue(float x) const
+float Measurement::valueBefore(std::map<float, float>::const_iterator next, float x) const
 {
-    // One search: the first key not below x is x itself (as the map compares), or the next
-    // key above it.
-    const auto next = d_values.lower_bound(x);
+    // `next` is the first key not below x: x itself (as the map compares), or the next key.
     if (next != d_values.end() && !(x < next->first))
         return next->second;
     // Outside the keys the value is 0.
@@ -42,6 +40,25 @@ float Measurement::getValue(float x) const
         (next->second - prev->second) * ((x - prev->first) / (next->first - prev->first)) +
         prev->second;
     return static_cast<float>(std::ceil(r * 100.0) * 0.01);
+}
+
+float Measurement::getValue(float x) const
+{
+    return valueBefore(d_values.lower_bound(x), x);
+}
+
+void Measurement::getValues(const std::vector<float>& ascending, std::vector<float>& out) const
+{
+    // One pass along the keys instead of a search per x.
+    out.resize(ascending.size());
+    auto next = d_values.begin();
+    for (std::size_t i = 0; i < ascending.size(); ++i)
+    {
+        const float x = ascending[i];
+        while (next != d_values.end() && next->first < x)
+            ++next;
+        out[i] = valueBefore(next, x);
+    }
 }
 
 float Measurement::getStackedValue(float x) const
@@ -108,6 +125,7 @@ Measurement& Diagram::measurementNamed(const String& name, const char* message) 
 void Diagram::dataChanged()
 {
     d_rangesValid = false;
+    d_samples.valid = false;
     invalidate();
 }
 
@@ -162,6 +180,7 @@ void Diagram::clearValues(const String& name)
         }
     }
     d_rangesValid = false;
+    d_samples.valid = false;
 }
 
 void Diagram::setXLabel(const String& text, float x)
@@ -283,6 +302,12 @@ void Diagram::setUnitPixelSize(const Sizef& size)
 {
     d_model.unitPixelSize = size;
     updateScrollbars();
+    invalidate();
+}
+
+void Diagram::setColumnMerging(bool merging)
+{
+    d_columnMerging = merging;
     invalidate();
 }
 
@@ -558,6 +583,11 @@ void Diagram::drawMeasurements(const Rectf& graph, const Sizef& unit, float yMax
     const float firstLeft = graph.left() - hScroll;
     if (!(width > 0))
         return; // intervals of no width: nothing can be seen
+    if (width < 1.0f && d_columnMerging)
+    {
+        drawMergedColumns(graph, unit, yMax, yMin, xEnd, firstLeft, vScroll);
+        return;
+    }
 
     // Intervals wholly left of the graph are clipped away: skip them, by a jump when the
     // walk's sums are exact (then the jump lands where the walk would), else by walking.
@@ -603,6 +633,73 @@ void Diagram::drawMeasurements(const Rectf& graph, const Sizef& unit, float yMax
     }
     d_memoActive = false;
     d_valuesAt.clear();
+}
+
+const std::vector<SampledSeries>& Diagram::samples(float xEnd) const
+{
+    SamplesTaken& taken = d_samples;
+    const bool stacked = d_model.superImposed;
+    if (!taken.valid || taken.xMin != d_model.xMin || taken.step != d_model.step ||
+        taken.xEnd != xEnd || taken.stacked != stacked ||
+        taken.series.size() != d_model.measurements.size())
+    {
+        std::vector<const Measurement*> measurements;
+        for (const auto& measurement : d_model.measurements)
+            measurements.push_back(measurement.get());
+        taken.series = sampleMeasurements(measurements, d_model.xMin, d_model.step, xEnd, stacked);
+        taken.xMin = d_model.xMin;
+        taken.step = d_model.step;
+        taken.xEnd = xEnd;
+        taken.stacked = stacked;
+        taken.valid = true;
+    }
+    return taken.series;
+}
+
+void Diagram::drawMergedColumns(const Rectf& graph, const Sizef& unit, float yMax, float yMin,
+                                float xEnd, double firstLeft, float vScroll)
+{
+    const float span = yMax - yMin;
+    if (!(span > 0))
+        return; // every value is 0: no column has height
+    const std::vector<SampledSeries>& series = samples(xEnd);
+    if (series.empty() || series.front().size() < 2)
+        return;
+    const SamplePlacement placement{firstLeft, static_cast<double>(unit.d_width)};
+    const double end = firstLeft + static_cast<double>(series.front().size() - 1) * unit.d_width;
+    const long first = static_cast<long>(std::floor(std::max<double>(graph.left(), firstLeft)));
+    const long last = static_cast<long>(std::ceil(std::min<double>(graph.right(), end)));
+    if (first >= last)
+        return;
+
+    // Rows as an interval's drawing places them.
+    const float bottom = graph.bottom() + vScroll;
+    const float height = span * unit.d_height;
+    auto row = [&](float y) { return bottom - height * ((y - yMin) / span); };
+    const float zero = row(0.0f);
+    for (std::size_t m = 0; m < d_model.measurements.size(); ++m)
+    {
+        Measurement& measurement = *d_model.measurements[m];
+        ColumnSpan column;
+        for (long c = first; c < last; ++c)
+        {
+            if (!columnSpan(series[m], placement, c, column))
+                continue;
+            if (column.high > 0)
+                measurement.drawColumn(Rectf(column.left, row(column.high), column.right, zero),
+                                       graph);
+            if (column.low < 0)
+                measurement.drawColumn(Rectf(column.left, row(column.low), column.right, zero),
+                                       graph);
+        }
+    }
+    // The intervals those columns stand for.
+    const double shownFrom = std::max(0.0, std::floor((graph.left() - firstLeft) / unit.d_width));
+    const double shownTo = std::min(static_cast<double>(series.front().size() - 1),
+                                    std::ceil((graph.right() - firstLeft) / unit.d_width));
+    if (shownTo > shownFrom)
+        d_drawnIntervals =
+            static_cast<std::size_t>(shownTo - shownFrom) * d_model.measurements.size();
 }
 
 void Diagram::drawFrame()

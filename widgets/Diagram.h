@@ -10,6 +10,7 @@
 
 #include "draw/NinePieceFrame.h"
 #include "draw/RedrawnWhenUncovered.h"
+#include "widgets/DiagramColumns.h"
 
 #include <CEGUI/Window.h>
 #include <exception>
@@ -43,6 +44,10 @@ public:
     //! Draws one sample interval: values `valueArea` (left, right x; top the y maximum,
     //! bottom the y minimum) over pixels `pixelArea` (window-local).
     virtual void draw(const Rectf& valueArea, const Rectf& pixelArea, bool superImposed) = 0;
+    //! Draws one pixel column that stands for the several intervals in it: `area` runs from
+    //! the zero line to the farthest value reached (given upside down below the line),
+    //! clipped to `graph`.
+    virtual void drawColumn(const Rectf& area, const Rectf& graph) = 0;
     virtual Window* createLegendItem() = 0;
 
     const String& getName() const { return d_name; }
@@ -58,6 +63,8 @@ public:
     //! The value at x: stored, interpolated between the keys around it (rounded up to the
     //! hundredth), or 0 outside them.
     float getValue(float x) const;
+    //! getValue for each of the ascending xs, in one pass.
+    void getValues(const std::vector<float>& ascending, std::vector<float>& out) const;
     //! The value plus the stacked value of the measurement added before it.
     float getStackedValue(float x) const;
     float getYMin(bool stacked) const;
@@ -67,6 +74,8 @@ public:
     void clear();
 
 private:
+    float valueBefore(std::map<float, float>::const_iterator next, float x) const;
+
     String d_name;
     String d_legend;
     Colour d_colour;
@@ -170,6 +179,11 @@ public:
     Scrollbar* getHorzScrollbar() const { return d_horzScrollbar; }
     Scrollbar* getVertScrollbar() const { return d_vertScrollbar; }
 
+    //! Where intervals are narrower than a pixel, draw each pixel column once (the same
+    //! pixels as drawing every interval, at the cost of the graph's width); on by default.
+    void setColumnMerging(bool merging);
+    bool isColumnMerging() const { return d_columnMerging; }
+
     //! Intervals drawn at the last population (those that meet the graph area).
     std::size_t getDrawnIntervalCount() const { return d_drawnIntervals; }
     //! The measurement's value at x as the drawing reads it, memoised for the interval
@@ -205,6 +219,9 @@ private:
     void computeRanges() const;
     void drawLabels(const Rectf& graph);
     void drawMeasurements(const Rectf& graph, const Sizef& unit, float yMax, float yMin);
+    void drawMergedColumns(const Rectf& graph, const Sizef& unit, float yMax, float yMin,
+                           float xEnd, double firstLeft, float vScroll);
+    const std::vector<SampledSeries>& samples(float xEnd) const;
     void drawFrame();
 
     Scrollbar* d_horzScrollbar = nullptr;
@@ -222,6 +239,17 @@ private:
     };
     mutable std::unordered_map<float, ValuesAt> d_valuesAt;
     mutable bool d_memoActive = false;
+    // Each measurement's values at the interval ends, for merged columns; kept until the
+    // data or what they were taken for changes.
+    struct SamplesTaken
+    {
+        bool valid = false;
+        float xMin = 0.0f, step = 0.0f, xEnd = 0.0f;
+        bool stacked = false;
+        std::vector<SampledSeries> series;
+    };
+    mutable SamplesTaken d_samples;
+    bool d_columnMerging = true;
     std::size_t d_drawnIntervals = 0;
 };
 
