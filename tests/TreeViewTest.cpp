@@ -8,6 +8,7 @@
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/widgets/ScrollablePane.h>
 #include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace CEGUI;
@@ -306,6 +307,32 @@ TEST_F(TreeViewTest, TheLinesHitTestAgreesWithTheTreeWalk)
             hits += walked != nullptr;
         }
     EXPECT_GT(hits, 100);
+
+    // After changes and a draw, hovering still flags exactly the node the walk finds: the
+    // hovered line removed, another title closed and opened, a line added.
+    std::function<int(const Node&)> flagged = [&](const Node& n)
+    {
+        int count = n.IsHovered();
+        for (const auto& child : n.GetChildren())
+            count += flagged(*child);
+        return count;
+    };
+    for (int round = 0; round < 3; ++round)
+    {
+        if (Node* gone = focused.empty() ? nullptr : focused.back())
+            gone->GetParent()->Remove(gone);
+        root->GetChild("B")->SetOpened(round % 2 == 0);
+        root->GetChild("A")->Add("late", "Late", nullptr);
+        drawnBy(*tree);
+        for (float y = 5; y < 140; y += 4.5f)
+        {
+            bool nav = false;
+            Node* walked = root->GetNodeAt(Vector2f(30, y), nav);
+            moxietest::pointerTo(30, y);
+            EXPECT_EQ(flagged(*root), walked ? 1 : 0) << y;
+            EXPECT_TRUE(!walked || walked->IsHovered()) << y;
+        }
+    }
 }
 
 TEST_F(TreeViewTest, PropertiesTheirDefaultsAndTheTitleFontGetter)

@@ -285,24 +285,28 @@ TreeView::Node* TreeView::Node::GetNodeAt(const Vector2f& point, bool& onNavigat
 
 TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
 {
+    Node* found = updateHover(point);
+    if (TreeView* owner = tree())
+    {
+        // From the root, the flags are now exactly as this walk left them; from below it,
+        // a flag elsewhere may remain.
+        owner->d_flaggedNode = d_parent ? nullptr : found;
+        owner->d_hoverFlagsKnown = !d_parent;
+    }
+    return found;
+}
+
+TreeView::Node* TreeView::Node::updateHover(const Vector2f& point)
+{
     bool onNavigator = false;
     Node* found = GetNodeAt(point, onNavigator);
     d_hovered = false;
     Node* last = nullptr;
     for (const auto& child : d_children)
-        if (Node* result = child->UpdateHoveringState(point))
+        if (Node* result = child->updateHover(point))
             last = result;
     if (found)
         found->d_hovered = true;
-    if (!d_parent)
-        if (TreeView* owner = d_owner)
-        {
-            // Flags are now exactly as this walk left them.
-            owner->d_flaggedNode = found ? found : last;
-            owner->d_hoverFlagsKnown = true;
-        }
-    if (TreeView* owner = tree(); owner && d_parent)
-        owner->d_hoverFlagsKnown = false;
     return found ? found : last;
 }
 
@@ -325,6 +329,8 @@ bool TreeView::Node::Remove(Node* node)
         {
             const bool atCursor = it == d_cursor;
             TreeView* owner = tree();
+            if (owner)
+                owner->nodeLeaving(*node);
             d_children.erase(it);
             if (atCursor)
                 d_cursor = d_children.begin();
@@ -346,6 +352,8 @@ bool TreeView::Node::Remove(const String& name)
         {
             const bool atCursor = it == d_cursor;
             TreeView* owner = tree();
+            if (owner)
+                owner->nodeLeaving(**it);
             d_children.erase(it);
             if (atCursor)
                 d_cursor = d_children.begin();
@@ -361,6 +369,9 @@ bool TreeView::Node::Remove(const String& name)
 
 void TreeView::Node::RemoveAll()
 {
+    if (TreeView* owner = tree())
+        for (const auto& child : d_children)
+            owner->nodeLeaving(*child);
     d_children.clear();
     d_cursor = d_children.begin();
     changed(true);
@@ -440,11 +451,19 @@ void TreeView::nodesChanged(bool relayout)
     {
         d_layoutValid = false;
         d_indexValid = false;
-        // The flagged node may be gone: the next hover walks the tree and sets every flag.
-        d_flaggedNode = nullptr;
-        d_hoverFlagsKnown = false;
     }
     invalidate();
+}
+
+void TreeView::nodeLeaving(const Node& node)
+{
+    // Only the flagged node carries a hover flag: if it goes, none is left.
+    for (const Node* n = d_flaggedNode; n; n = n->d_parent)
+        if (n == &node)
+        {
+            d_flaggedNode = nullptr;
+            return;
+        }
 }
 
 bool TreeView::RemoveNode(Node* node)

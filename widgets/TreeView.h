@@ -152,6 +152,8 @@ public:
         friend class TreeView;
 
         Node* hitTest(const Vector2f& point, bool& onNavigator, float rowRight);
+        //! UpdateHoveringState's walk, without asking for the tree at every node.
+        Node* updateHover(const Vector2f& point);
         void SetVisible(bool visible);
         float textWidth(const Font& font, std::uint32_t epoch);
 
@@ -267,6 +269,8 @@ public:
 protected:
     //! Lines changed shape (relayout) or only look (redraw).
     void nodesChanged(bool relayout);
+    //! `node` and its subtree are about to leave the tree.
+    void nodeLeaving(const Node& node);
 
 private:
     friend class Node;
