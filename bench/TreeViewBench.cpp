@@ -37,7 +37,7 @@ TreeView& makeTree(int titles, const char* type = "MoxieLook/TreeView")
 void finish(benchmark::State& state, TreeView& tree)
 {
     state.counters["vertices"] = static_cast<double>(tree.getGeometryBuffer().getVertexCount());
-    state.counters["lines"] = static_cast<double>(tree.GetLaidOutLines().size());
+    state.counters["lines"] = static_cast<double>(tree.GetLaidOutLineCount());
     WindowManager::getSingleton().destroyWindow(&tree);
     WindowManager::getSingleton().cleanDeadPool();
 }

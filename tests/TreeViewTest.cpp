@@ -7,9 +7,13 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/widgets/ScrollablePane.h>
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+#include <string>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -363,4 +367,134 @@ TEST_F(TreeViewTest, PropertiesTheirDefaultsAndTheTitleFontGetter)
     tree->setFont("MoxieLook-12");
     EXPECT_EQ(tree->getProperty("TitleFont"), "MoxieLook-12");
     EXPECT_THROW(tree->setProperty("TitleFont", "NoSuchFont"), UnknownObjectException);
+}
+
+TEST_F(TreeViewTest, ChangesLaidOutWhereTheyHappenMatchAWholeLayout)
+{
+    // Random changes, a draw after a few of them; then the same tree laid out whole (the
+    // indent set again lays out everything) must draw and hit the same.
+    std::mt19937 random(11);
+    // Enough lines for several of the index's chunks.
+    for (int t = 0; t < 12; ++t)
+    {
+        Node* title = tree->GetRootNode()->Add("t", "Title " + std::to_string(t), nullptr);
+        for (int l = 0; l < 100; ++l)
+            title->Add("l", "Leaf " + std::to_string(l), nullptr);
+    }
+    std::vector<Node*> nodes;
+    std::function<void(Node*)> gather = [&](Node* n)
+    {
+        nodes.push_back(n);
+        for (const auto& child : n->GetChildren())
+            gather(child.get());
+    };
+    gather(tree->GetRootNode());
+    // Seldom the root: a change there lays out everything anyway.
+    auto pick = [&] { return nodes[random() % 10 == 0 ? 0 : 1 + random() % (nodes.size() - 1)]; };
+    auto forget = [&](Node* gone)
+    {
+        nodes.erase(std::remove_if(nodes.begin(), nodes.end(),
+                                   [gone](Node* n)
+                                   {
+                                       for (; n; n = n->GetParent())
+                                           if (n == gone)
+                                               return true;
+                                       return false;
+                                   }),
+                    nodes.end());
+    };
+    struct Seen
+    {
+        std::vector<std::string> drawn;
+        std::vector<Rectf> hits;
+        std::vector<bool> clipped;
+        std::vector<Node*> found;
+    };
+    auto look = [&]
+    {
+        Seen seen;
+        moxietest::pointerTo(799, 599); // nothing hovered while drawing
+        for (const auto& quad : drawnBy(*tree))
+        {
+            std::ostringstream text;
+            text << quad;
+            seen.drawn.push_back(text.str());
+        }
+        for (Node* node : nodes)
+        {
+            seen.hits.push_back(node->GetHitRect());
+            seen.clipped.push_back(node->IsClipped());
+        }
+        for (float y = 12; y < 210; y += 5)
+        {
+            moxietest::pointerTo(60, y);
+            seen.found.push_back(focused.empty() ? nullptr : focused.back());
+        }
+        return seen;
+    };
+    std::size_t mostLines = 0;
+    for (int round = 0; round < 60; ++round)
+    {
+        for (int change = 0; change < 1 + static_cast<int>(random() % 4); ++change)
+        {
+            Node* node = pick();
+            switch (random() % 9)
+            {
+            case 0:
+            case 1:
+            case 2:
+            case 3:
+                nodes.push_back(node->Add("n", "Line " + std::to_string(random() % 1000), nullptr));
+                break;
+            case 4:
+                if (node->GetParent() && node->GetNbDescendants() < 4)
+                {
+                    forget(node);
+                    node->GetParent()->Remove(node);
+                }
+                break;
+            case 5:
+                if (node->GetParent()) // the root's closing closes every title
+                    node->SetOpened(!node->IsOpened());
+                break;
+            case 6:
+                node->SetText(random() % 4 == 0 ? "" : "Text " + std::to_string(random() % 100));
+                break;
+            case 7:
+            {
+                const unsigned height = random() % 3 == 0 ? 30 : 0;
+                node->SetPixelHeight(height, random() % 2 == 0);
+                break;
+            }
+            default:
+                node->Select(true, random() % 2 == 0);
+            }
+        }
+        if (round % 5 == 4)
+        {
+            // A click on a line leaves exactly that line selected, whatever was before.
+            const Vector2f at(60, 20 + static_cast<float>(random() % 150));
+            bool onNavigator = false;
+            Node* hit = tree->GetRootNode()->GetNodeAt(at, onNavigator);
+            moxietest::click(at.d_x, at.d_y);
+            const auto selected =
+                std::count_if(nodes.begin(), nodes.end(), [](Node* n) { return n->IsSelected(); });
+            if (hit)
+            {
+                EXPECT_EQ(selected, 1) << "round " << round;
+                EXPECT_TRUE(hit->IsSelected()) << "round " << round;
+            }
+        }
+        if (round % 3 == 1)
+            tree->GetScrollablePane()->setVerticalScrollPosition(0.1f * (random() % 8));
+        const Seen changed = look();
+        tree->SetPixelIndent(tree->GetPixelIndent());
+        const Seen whole = look();
+        ASSERT_EQ(changed.drawn, whole.drawn) << "round " << round;
+        ASSERT_EQ(changed.hits, whole.hits) << "round " << round;
+        ASSERT_EQ(changed.clipped, whole.clipped) << "round " << round;
+        ASSERT_EQ(changed.found, whole.found) << "round " << round;
+        mostLines = std::max(mostLines, tree->GetLaidOutLineCount());
+    }
+    EXPECT_GT(mostLines, 1000u);
 }

@@ -1,6 +1,8 @@
 #include "widgets/TreeView.h"
 
 #include "draw/Imagery.h"
+#include "widgets/TreeViewHits.h"
+#include "widgets/TreeViewLineIndex.h"
 #include "widgets/WheelForwarding.h"
 
 #include <CEGUI/CoordConverter.h>
@@ -22,6 +24,8 @@ namespace CEGUI
 {
 namespace MoxieLook
 {
+using namespace treeview;
+
 const String TreeView::EventNamespace("TreeView");
 const String TreeView::EventLeafItemClicked("TreeViewLeafItemClicked");
 const String TreeView::EventLeafItemDoubleClicked("TreeViewLeafItemDoubleClicked");
@@ -42,352 +46,7 @@ TreeViewProperties::SelectedLeafTextColourProperty s_selectedLeafColourProperty;
 TreeViewProperties::PixelNodeHeightProperty s_pixelNodeHeightProperty;
 TreeViewProperties::TitleFontProperty s_titleFontProperty;
 
-// The hit test of one rectangle: bounds included.
-bool within(const Rectf& r, const Vector2f& p)
-{
-    return p.d_x >= r.left() && p.d_x <= r.right() && p.d_y >= r.top() && p.d_y <= r.bottom();
-}
-
-// A hit rectangle stretched to the right edge every row answers to.
-bool withinRow(Rectf r, float rowRight, const Vector2f& p)
-{
-    r.d_max.d_x = std::max(r.d_max.d_x, rowRight);
-    return within(r, p);
-}
-
-Rectf moved(Rectf r, const Vector2f& by)
-{
-    r.offset(by);
-    return r;
-}
 } // namespace
-
-// --- Node ---------------------------------------------------------------------------------
-
-TreeView::Node::Node(const String& name, const String& text, Node* parent, void* data)
-    : d_parent(parent), d_name(name), d_text(text), d_data(data), d_cursor(d_children.begin())
-{
-}
-
-TreeView::Node::~Node() = default;
-
-TreeView* TreeView::Node::tree() const
-{
-    const Node* root = this;
-    while (root->d_parent)
-        root = root->d_parent;
-    return root->d_owner;
-}
-
-void TreeView::Node::changed(bool relayout) const
-{
-    if (TreeView* owner = tree())
-        owner->nodesChanged(relayout);
-}
-
-void TreeView::Node::SetText(const String& text)
-{
-    d_text = text;
-    d_textWidthValid = false;
-    changed(true);
-}
-
-void TreeView::Node::SetIcon(const Image* icon)
-{
-    d_icon = icon;
-    changed(true);
-}
-
-unsigned TreeView::Node::GetDepth() const
-{
-    unsigned depth = 0;
-    for (const Node* n = d_parent; n; n = n->d_parent)
-        ++depth;
-    return depth;
-}
-
-bool TreeView::Node::IsClipped() const
-{
-    if (d_hitRelative && d_owner)
-        return d_owner->d_clipRight < d_textRight + d_owner->d_origin.d_x;
-    return d_clipped;
-}
-
-Rectf TreeView::Node::GetHitRect() const
-{
-    return d_hitRelative && d_owner ? moved(d_hitRect, d_owner->d_origin) : d_hitRect;
-}
-
-std::size_t TreeView::Node::GetNbDescendants() const
-{
-    std::size_t count = 0;
-    std::deque<const Node*> queue{this};
-    while (!queue.empty())
-    {
-        const Node* node = queue.front();
-        queue.pop_front();
-        for (const auto& child : node->d_children)
-        {
-            ++count;
-            queue.push_back(child.get());
-        }
-    }
-    return count;
-}
-
-int TreeView::Node::GetChildIndex(const Node* child) const
-{
-    int index = 0;
-    for (const auto& c : d_children)
-    {
-        if (c.get() == child)
-            return index;
-        ++index;
-    }
-    return -1;
-}
-
-TreeView::Node* TreeView::Node::GetFirstChild()
-{
-    if (d_children.empty())
-        return nullptr;
-    d_cursor = d_children.begin();
-    return d_cursor->get();
-}
-
-TreeView::Node* TreeView::Node::GetLastChild()
-{
-    if (d_children.empty())
-        return nullptr;
-    d_cursor = std::prev(d_children.end());
-    return d_cursor->get();
-}
-
-bool TreeView::Node::HasNextChild() const
-{
-    return !d_children.empty() && d_cursor != d_children.end() &&
-           std::next(Children::const_iterator(d_cursor)) != d_children.end();
-}
-
-bool TreeView::Node::HasPreviousChild() const
-{
-    return !d_children.empty() && Children::const_iterator(d_cursor) != d_children.begin();
-}
-
-TreeView::Node* TreeView::Node::GetNextChild()
-{
-    if (!HasNextChild())
-        throw OutOfBound("outOfBounds exception : no more child for the current treeNode");
-    return (++d_cursor)->get();
-}
-
-TreeView::Node* TreeView::Node::GetPreviousChild()
-{
-    if (!HasPreviousChild())
-        throw OutOfBound("outOfBounds exception : no child before the current node");
-    return (--d_cursor)->get();
-}
-
-TreeView::Node* TreeView::Node::GetChild(int index)
-{
-    if (index < 0 || static_cast<std::size_t>(index) >= d_children.size())
-        throw OutOfBound("outOfBounds exception : no child at index " + std::to_string(index));
-    d_cursor = std::next(d_children.begin(), index);
-    return d_cursor->get();
-}
-
-TreeView::Node* TreeView::Node::GetChild(const String& name)
-{
-    for (d_cursor = d_children.begin(); d_cursor != d_children.end(); ++d_cursor)
-        if ((*d_cursor)->d_name == name)
-            return d_cursor->get();
-    d_cursor = d_children.begin();
-    return nullptr;
-}
-
-TreeView::Node* TreeView::Node::GetNode(const String& name)
-{
-    if (d_name == name)
-        return this;
-    for (const auto& child : d_children)
-        if (Node* found = child->GetNode(name))
-            return found;
-    return nullptr;
-}
-
-TreeView::Node* TreeView::Node::GetSelectedNode()
-{
-    if (d_selected)
-        return this;
-    for (const auto& child : d_children)
-        if (Node* found = child->GetSelectedNode())
-            return found;
-    return nullptr;
-}
-
-void TreeView::Node::Select(bool select, bool recursive)
-{
-    d_selected = select;
-    if (recursive)
-        for (const auto& child : d_children)
-            child->Select(select, true);
-}
-
-void TreeView::Node::SetPixelHeight(unsigned height, bool recursive)
-{
-    d_pixelHeight = height;
-    if (recursive)
-        for (const auto& child : d_children)
-            child->SetPixelHeight(d_pixelHeight, true);
-    changed(true);
-}
-
-void TreeView::Node::SetVisible(bool visible)
-{
-    d_visible = visible;
-    for (const auto& child : d_children)
-        child->SetVisible(visible);
-}
-
-void TreeView::Node::SetOpened(bool opened)
-{
-    if (d_opened == opened)
-        return;
-    d_opened = opened || IsRoot(); // the root stays open
-    if (!IsLeaf())
-        for (const auto& child : d_children)
-        {
-            child->SetVisible(IsOpened());
-            child->SetOpened(opened);
-        }
-    changed(true);
-}
-
-TreeView::Node* TreeView::Node::hitTest(const Vector2f& point, bool& onNavigator, float rowRight)
-{
-    if (d_visible && withinRow(GetHitRect(), rowRight, point))
-    {
-        onNavigator = !IsLeaf() && point.d_x <= GetHitRect().left() + d_iconWidth;
-        return this;
-    }
-    for (const auto& child : d_children)
-        if (Node* found = child->hitTest(point, onNavigator, rowRight))
-            return found;
-    return nullptr;
-}
-
-TreeView::Node* TreeView::Node::GetNodeAt(const Vector2f& point, bool& onNavigator)
-{
-    const TreeView* owner = tree();
-    return hitTest(point, onNavigator,
-                   owner ? owner->rowHitRight() : -std::numeric_limits<float>::infinity());
-}
-
-TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
-{
-    Node* found = updateHover(point);
-    if (TreeView* owner = tree())
-    {
-        // From the root, the flags are now exactly as this walk left them; from below it,
-        // a flag elsewhere may remain.
-        owner->d_flaggedNode = d_parent ? nullptr : found;
-        owner->d_hoverFlagsKnown = !d_parent;
-    }
-    return found;
-}
-
-TreeView::Node* TreeView::Node::updateHover(const Vector2f& point)
-{
-    bool onNavigator = false;
-    Node* found = GetNodeAt(point, onNavigator);
-    d_hovered = false;
-    Node* last = nullptr;
-    for (const auto& child : d_children)
-        if (Node* result = child->updateHover(point))
-            last = result;
-    if (found)
-        found->d_hovered = true;
-    return found ? found : last;
-}
-
-TreeView::Node* TreeView::Node::Add(const String& name, const String& text, void* data)
-{
-    auto child = std::shared_ptr<Node>(CreateNode(name, text, this, data));
-    d_children.push_back(child);
-    if (d_children.size() == 1)
-        d_cursor = d_children.begin();
-    child->SetPixelHeight(d_pixelHeight, false);
-    changed(true);
-    return child.get();
-}
-
-bool TreeView::Node::Remove(Node* node)
-{
-    for (auto it = d_children.begin(); it != d_children.end(); ++it)
-    {
-        if (it->get() == node)
-        {
-            const bool atCursor = it == d_cursor;
-            TreeView* owner = tree();
-            if (owner)
-                owner->nodeLeaving(*node);
-            d_children.erase(it);
-            if (atCursor)
-                d_cursor = d_children.begin();
-            if (owner)
-                owner->nodesChanged(true);
-            return true;
-        }
-        if ((*it)->Remove(node))
-            return true;
-    }
-    return false;
-}
-
-bool TreeView::Node::Remove(const String& name)
-{
-    for (auto it = d_children.begin(); it != d_children.end(); ++it)
-    {
-        if ((*it)->d_name == name)
-        {
-            const bool atCursor = it == d_cursor;
-            TreeView* owner = tree();
-            if (owner)
-                owner->nodeLeaving(**it);
-            d_children.erase(it);
-            if (atCursor)
-                d_cursor = d_children.begin();
-            if (owner)
-                owner->nodesChanged(true);
-            return true;
-        }
-        if ((*it)->Remove(name))
-            return true;
-    }
-    return false;
-}
-
-void TreeView::Node::RemoveAll()
-{
-    if (TreeView* owner = tree())
-        for (const auto& child : d_children)
-            owner->nodeLeaving(*child);
-    d_children.clear();
-    d_cursor = d_children.begin();
-    changed(true);
-}
-
-float TreeView::Node::textWidth(const Font& font, std::uint32_t epoch)
-{
-    if (!d_textWidthValid || d_textWidthFont != &font || d_textWidthEpoch != epoch)
-    {
-        d_textWidth = font.getTextExtent(d_text);
-        d_textWidthFont = &font;
-        d_textWidthEpoch = epoch;
-        d_textWidthValid = true;
-    }
-    return d_textWidth;
-}
 
 // --- TreeView -----------------------------------------------------------------------------
 
@@ -449,29 +108,64 @@ void TreeView::nodesChanged(bool relayout)
 {
     if (relayout)
     {
+        d_layOutAll = true;
         d_layoutValid = false;
         d_indexValid = false;
     }
     invalidate();
 }
 
+void TreeView::subtreeChanged(Node& node)
+{
+    // Beyond a few subtrees, laying out everything once is cheaper than finding them all.
+    constexpr std::size_t MostSubtrees = 64;
+    if (!d_layOutAll)
+    {
+        const bool inChanged = std::any_of(d_changed.begin(), d_changed.end(),
+                                           [&node](Node* n) { return isWithin(&node, *n); });
+        if (!inChanged && d_changed.size() < MostSubtrees)
+            d_changed.push_back(&node);
+        else if (!inChanged)
+            d_layOutAll = true;
+    }
+    d_layoutValid = false;
+    d_indexValid = false;
+    invalidate();
+}
+
+void TreeView::clearSelection()
+{
+    // As the root's Select(false, true), for the nodes that can be selected.
+    for (Node* node : d_selectedNodes)
+        node->d_selected = false;
+    d_selectedNodes.clear();
+}
+
 void TreeView::nodeLeaving(const Node& node)
 {
     // Only the flagged node carries a hover flag: if it goes, none is left.
-    for (const Node* n = d_flaggedNode; n; n = n->d_parent)
-        if (n == &node)
-        {
-            d_flaggedNode = nullptr;
-            return;
-        }
+    if (isWithin(d_flaggedNode, node))
+        d_flaggedNode = nullptr;
+    d_selectedNodes.erase(std::remove_if(d_selectedNodes.begin(), d_selectedNodes.end(),
+                                         [&node](Node* n) { return isWithin(n, node); }),
+                          d_selectedNodes.end());
+    d_changed.erase(std::remove_if(d_changed.begin(), d_changed.end(),
+                                   [&node](Node* n) { return isWithin(n, node); }),
+                    d_changed.end());
+    d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
+                                  [&node](Node* n) { return isWithin(n, node); }),
+                   d_strays.end());
+    // Its lines stay, nameless, until the next layout replaces them.
+    if (!node.d_hitRelative || !node.d_chunk || !d_lines)
+        return;
+    for (auto at = d_lines->find(*node.d_chunk, node.d_hitRect.top() - 3.0f);
+         !d_lines->isEnd(at) && isWithin(d_lines->at(at).node, node); at = d_lines->next(at))
+        d_lines->orphan(at);
 }
 
 bool TreeView::RemoveNode(Node* node)
 {
-    const bool removed = d_root->Remove(node);
-    if (removed)
-        nodesChanged(true);
-    return removed;
+    return d_root->Remove(node); // which tells the tree
 }
 
 TreeView::Node* TreeView::GetNodeForName(const String& name, Node* start)
@@ -494,7 +188,7 @@ void TreeView::SetSelectionByNode(Node* node)
 {
     if (!node)
         return;
-    d_root->Select(false, true);
+    clearSelection();
     node->Select(true, false);
     invalidate();
     fireItemEvent(node->IsLeaf() ? EventLeafItemClicked : EventTitleItemClicked, node);
@@ -603,27 +297,98 @@ Sizef TreeView::contentSize() const
                  d_laidOutSize.d_height + (font ? font->getLineSpacing() : 0.0f));
 }
 
+std::size_t TreeView::GetLaidOutLineCount() const
+{
+    return d_lines ? d_lines->size() : 0;
+}
+
 void TreeView::layOut()
 {
-    // Nodes laid out before and now without a line keep their last screen rectangle.
-    const Vector2f lastOrigin = d_origin;
-    d_lines.clear();
-    d_strays.clear();
-    std::size_t order = 0;
-    float bottom = 0;
-    float right = 0;
+    if (!d_lines)
+        d_lines = std::make_unique<LineIndex>();
+    bool all = d_layOutAll;
+    if (!all)
+    {
+        // A subtree inside another that changed is laid out with it.
+        std::vector<Node*> changed;
+        for (Node* node : d_changed)
+        {
+            bool inner = false;
+            for (Node* other : d_changed)
+                inner = inner || (other != node && isWithin(node->d_parent, *other));
+            if (!inner && std::find(changed.begin(), changed.end(), node) == changed.end())
+                changed.push_back(node);
+        }
+        for (Node* node : changed)
+            if (!layOutAgain(*node))
+            {
+                all = true;
+                break;
+            }
+    }
+    if (all)
+    {
+        std::vector<Line> lines;
+        d_strays.clear();
+        walk(*d_root, 0.0f, true, lines);
+        d_lines->replace(d_lines->begin(), d_lines->end(), std::move(lines),
+                         [this](const Line& line, const LineChunk& chunk) { place(line, chunk); });
+    }
+    d_changed.clear();
+    d_layOutAll = false;
+    d_laidOutSize = d_lines->extent();
+    d_layoutValid = true;
+    d_indexValid = true;
+}
+
+bool TreeView::layOutAgain(Node& node)
+{
+    if (!node.d_hitRelative || !node.d_chunk)
+    {
+        // No line to find its place by: fine while no line of its subtree can be shown.
+        for (const Node* n = node.d_parent; n; n = n->d_parent)
+            if (!n->IsOpened())
+            {
+                std::vector<Line> none;
+                d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
+                                              [&node](Node* s) { return isWithin(s, node); }),
+                               d_strays.end());
+                walk(node, 0.0f, false, none);
+                return true;
+            }
+        return false;
+    }
+    const LineIndex::Position first = d_lines->find(*node.d_chunk, node.d_hitRect.top() - 3.0f);
+    if (d_lines->isEnd(first) || d_lines->at(first).node != &node)
+        return false;
+    LineIndex::Position last = d_lines->next(first);
+    while (!d_lines->isEnd(last) &&
+           (!d_lines->at(last).node || isWithin(d_lines->at(last).node, node)))
+        last = d_lines->next(last);
+
+    d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
+                                  [&node](Node* s) { return isWithin(s, node); }),
+                   d_strays.end());
+    std::vector<Line> lines;
+    walk(node, d_lines->at(first).x, true, lines);
+    d_lines->replace(first, last, std::move(lines),
+                     [this](const Line& line, const LineChunk& chunk) { place(line, chunk); });
+    return true;
+}
+
+void TreeView::walk(Node& from, float fromX, bool fromShown, std::vector<Line>& lines)
+{
     const Font* leafFont = getFont(true);
     const Font* titleFont = GetTitleFont();
-
-    // Pre-order walk of every node; `x` is the indentation, `shown` whether the node's
-    // line is drawn (all its ancestors open).
+    // Pre-order; `x` is the indentation, `shown` whether the node's line is drawn (all
+    // its ancestors open).
     struct Frame
     {
         Node* node;
         float x;
         bool shown;
     };
-    std::vector<Frame> stack{{d_root.get(), 0.0f, true}};
+    std::vector<Frame> stack{{&from, fromX, fromShown}};
     while (!stack.empty())
     {
         const Frame frame = stack.back();
@@ -645,12 +410,7 @@ void TreeView::layOut()
                 const float textRight =
                     x + navWidth + iconWidth + node.textWidth(*font, d_metricsEpoch);
                 node.d_iconWidth = static_cast<unsigned>(navWidth);
-                node.d_hitRect = Rectf(x, bottom + 3.0f, textRight, bottom + h);
-                node.d_textRight = textRight;
-                node.d_hitRelative = true;
-                d_lines.push_back({&node, x, bottom, h, navWidth, iconWidth, textRight, order});
-                right = std::max(right, textRight);
-                bottom += h;
+                lines.push_back({&node, x, 0.0f, h, navWidth, iconWidth, textRight});
                 drawn = true;
             }
             else
@@ -660,22 +420,29 @@ void TreeView::layOut()
         {
             if (node.d_hitRelative)
             {
-                node.d_clipped = d_clipRight < node.d_textRight + lastOrigin.d_x;
-                node.d_hitRect = moved(node.d_hitRect, lastOrigin);
+                // Frozen where the last draw put it.
+                node.d_clipped = node.IsClipped();
+                node.d_hitRect = node.GetHitRect();
                 node.d_hitRelative = false;
+                node.d_chunk = nullptr;
             }
             if (node.d_visible)
-                d_strays.push_back({order, &node});
+                d_strays.push_back(&node);
         }
-        ++order;
         const bool childrenShown = frame.shown && !node.IsLeaf() && node.d_opened;
         const float childX = x + static_cast<float>(d_pixelIndent);
         for (auto it = node.d_children.rbegin(); it != node.d_children.rend(); ++it)
             stack.push_back({it->get(), childX, childrenShown});
     }
-    d_laidOutSize = Sizef(right, bottom);
-    d_layoutValid = true;
-    d_indexValid = true;
+}
+
+void TreeView::place(const Line& line, const LineChunk& chunk)
+{
+    Node& node = *line.node;
+    node.d_hitRect = Rectf(line.x, line.y + 3.0f, line.textRight, line.y + line.height);
+    node.d_textRight = line.textRight;
+    node.d_hitRelative = true;
+    node.d_chunk = &chunk;
 }
 
 void TreeView::RenderNodes(GeometryBuffer& buffer)
@@ -702,137 +469,19 @@ void TreeView::RenderNodes(GeometryBuffer& buffer)
 
     // Only the lines that meet the clip area: they are in order of their tops.
     const Vector2f window = getUnclippedOuterRect().get().d_min;
-    const float top = clip.top() - d_origin.d_y;
-    const float bottom = clip.bottom() - d_origin.d_y;
-    auto first =
-        std::lower_bound(d_lines.begin(), d_lines.end(), top,
-                         [](const Line& line, float y) { return line.y + line.height <= y; });
+    const double top = clip.top() - d_origin.d_y;
+    const double bottom = clip.bottom() - d_origin.d_y;
     const Rectf localClip = moved(clip, Vector2f(-window.d_x, -window.d_y));
     const Vector2f toLocal(d_origin.d_x - window.d_x, d_origin.d_y - window.d_y);
-    for (auto it = first; it != d_lines.end() && it->y < bottom; ++it)
+    for (auto at = d_lines->firstEndingAfter(top, false);
+         !d_lines->isEnd(at) && d_lines->topOf(at) < bottom; at = d_lines->next(at))
     {
-        Line line = *it;
+        Line line = d_lines->at(at);
         line.x += toLocal.d_x;
-        line.y += toLocal.d_y;
+        line.y = static_cast<float>(d_lines->topOf(at) + toLocal.d_y);
         line.textRight += toLocal.d_x;
         line.node->Render(buffer, line, localClip, *this);
     }
-}
-
-TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator)
-{
-    if (!d_indexValid)
-        return d_root->GetNodeAt(point, onNavigator);
-    // At most one line holds the point's height; a stray earlier in the walk wins over it.
-    const float y = point.d_y - d_origin.d_y;
-    const float rowRight = rowHitRight();
-    Node* best = nullptr;
-    std::size_t bestOrder = SIZE_MAX;
-    auto it =
-        std::lower_bound(d_lines.begin(), d_lines.end(), y,
-                         [](const Line& line, float at) { return line.y + line.height < at; });
-    for (; it != d_lines.end() && it->y + 3.0f <= y; ++it)
-        if (it->node->d_visible && withinRow(it->node->GetHitRect(), rowRight, point))
-        {
-            best = it->node;
-            bestOrder = it->order;
-            break;
-        }
-    for (const auto& [order, stray] : d_strays)
-    {
-        if (order >= bestOrder)
-            break;
-        if (withinRow(stray->GetHitRect(), rowRight, point))
-        {
-            best = stray;
-            break;
-        }
-    }
-    if (best)
-        onNavigator = !best->IsLeaf() && point.d_x <= best->GetHitRect().left() + best->d_iconWidth;
-    return best;
-}
-
-TreeView::Node* TreeView::hoverAt(const Vector2f& point)
-{
-    if (!d_hoverFlagsKnown || !d_indexValid)
-        return d_root->UpdateHoveringState(point);
-    bool onNavigator = false;
-    Node* found = nodeAt(point, onNavigator);
-    if (d_flaggedNode)
-        d_flaggedNode->d_hovered = false;
-    if (found)
-        found->d_hovered = true;
-    d_flaggedNode = found;
-    return found;
-}
-
-void TreeView::fireItemEvent(const String& name, Node* node)
-{
-    ItemEventArgs args(node);
-    fireEvent(name, args, EventNamespace);
-}
-
-void TreeView::onMouseMove(MouseEventArgs& e)
-{
-    Node* hovered = hoverAt(e.position);
-    invalidate();
-    if (hovered == d_hoveredNode)
-        return;
-    d_hoveredNode = hovered;
-    const String tip = hovered ? hovered->GetText() : String();
-    setTooltipText(tip);
-    d_pane->setTooltipText(tip);
-    fireItemEvent(EventTitleFocusedItemChanged, hovered);
-}
-
-void TreeView::onMouseLeaves(MouseEventArgs& e)
-{
-    Window::onMouseLeaves(e);
-    hoverAt(Vector2f(-20.0f, -20.0f));
-    invalidate();
-}
-
-void TreeView::onMouseButtonDown(MouseEventArgs& e)
-{
-    bool onNavigator = false;
-    Node* node = nodeAt(e.position, onNavigator);
-    if (!node)
-        return;
-    d_root->Select(false, true);
-    node->Select(true, false);
-    if (node->IsLeaf())
-        fireItemEvent(EventLeafItemClicked, node);
-    else
-    {
-        if (onNavigator)
-        {
-            node->SetOpened(!node->IsOpened());
-            fireItemEvent(EventTitleOpenStateChanged, node);
-        }
-        fireItemEvent(EventTitleItemClicked, node);
-    }
-    invalidate();
-}
-
-void TreeView::onMouseDoubleClicked(MouseEventArgs& e)
-{
-    bool onNavigator = false;
-    if (Node* node = nodeAt(e.position, onNavigator))
-        fireItemEvent(node->IsLeaf() ? EventLeafItemDoubleClicked : EventTitleItemDoubleClicked,
-                      node);
-}
-
-void TreeView::onMouseWheel(MouseEventArgs& e)
-{
-    d_pane->setVerticalScrollPosition(d_pane->getVerticalScrollPosition() + e.wheelChange * 0.1f);
-}
-
-void TreeView::onFontChanged(WindowEventArgs& e)
-{
-    RedrawnWhenUncovered<Window>::onFontChanged(e);
-    ++d_metricsEpoch;
-    nodesChanged(true);
 }
 
 // --- properties ---------------------------------------------------------------------------

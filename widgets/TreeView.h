@@ -3,11 +3,12 @@
 // every line can be hovered, selected and double-clicked, each with its event.
 //
 // Drawing is cached for speed: the lines are laid out (positions, text widths) only when
-// the tree changes, and a redraw puts only the lines in view into the geometry. Every
-// observable result is that of laying out and drawing every node on every draw: the hit
-// rectangle of each shown node (moved with the scroll position), the clipped flags, the
-// content area, the events. Hit tests of the mouse handlers use the laid-out lines, so
-// that hovering costs a binary search, not a walk of the whole tree.
+// the tree changes, and then only under the nodes that changed (widgets/TreeViewLineIndex);
+// a redraw puts only the lines in view into the geometry. Every observable result is that
+// of laying out and drawing every node on every draw: the hit rectangle of each shown node
+// (moved with the scroll position), the clipped flags, the content area, the events. Hit
+// tests of the mouse handlers (widgets/TreeViewInput.cpp) use the laid-out lines, so that
+// hovering costs a binary search, not a walk of the whole tree.
 #pragma once
 
 #include "draw/ClipWatch.h"
@@ -53,18 +54,19 @@ public:
         std::string d_message;
     };
 
-    //! Where one shown line was laid out, relative to the tree's content origin.
+    //! Where one shown line was laid out.
     struct Line
     {
         Node* node;
-        float x;           //!< the line's left edge (the node's indentation)
-        float y;           //!< the line's top
-        float height;      //!< H
-        float navWidth;    //!< the navigation image's width
-        float iconWidth;   //!< the icon's width, 0 without one
-        float textRight;   //!< right end of the text
-        std::size_t order; //!< the node's place in a pre-order walk of the tree
+        float x;         //!< the line's left edge (the node's indentation)
+        float y;         //!< the line's top
+        float height;    //!< H
+        float navWidth;  //!< the navigation image's width
+        float iconWidth; //!< the icon's width, 0 without one
+        float textRight; //!< right end of the text
     };
+    struct LineChunk;
+    class LineIndex;
 
     class Node
     {
@@ -146,7 +148,7 @@ public:
         //! The tree this node belongs to, through its root, or null.
         TreeView* tree() const;
         //! Tells the tree that lines or their looks changed.
-        void changed(bool relayout) const;
+        void changed(bool relayout);
 
     private:
         friend class TreeView;
@@ -155,6 +157,7 @@ public:
         //! UpdateHoveringState's walk, without asking for the tree at every node.
         Node* updateHover(const Vector2f& point);
         void SetVisible(bool visible);
+        void selectIn(bool select, bool recursive, TreeView* owner);
         float textWidth(const Font& font, std::uint32_t epoch);
 
         Node* d_parent;
@@ -167,10 +170,11 @@ public:
         const Image* d_icon = nullptr;
         void* d_data;
         Rectf d_hitRect{0, 0, 0, 0};
-        //! The hit rectangle is relative to the owner's content origin (the node is laid
-        //! out now) rather than frozen in screen pixels.
+        //! The hit rectangle is relative to its line's chunk of the owner's content (the node
+        //! is laid out now) rather than frozen in screen pixels.
         bool d_hitRelative = false;
-        float d_textRight = 0; //!< relative, while d_hitRelative
+        const LineChunk* d_chunk = nullptr; //!< while d_hitRelative
+        float d_textRight = 0;              //!< relative, while d_hitRelative
         unsigned d_pixelHeight = 0;
         bool d_selected = false;
         bool d_opened = true;
@@ -234,7 +238,7 @@ public:
     bool Update(const EventArgs& args);
 
     //! The lines laid out at the last draw, in order (relative to the content origin).
-    const std::vector<Line>& GetLaidOutLines() const { return d_lines; }
+    std::size_t GetLaidOutLineCount() const;
     //! Screen position of the content origin at the last draw.
     const Vector2f& GetContentOrigin() const { return d_origin; }
 
@@ -268,15 +272,27 @@ public:
 
 protected:
     //! Lines changed shape (relayout) or only look (redraw).
+    //! Lines or their looks changed; `relayout`: everywhere.
     void nodesChanged(bool relayout);
+    //! `node`'s own line and its subtree's need laying out again.
+    void subtreeChanged(Node& node);
     //! `node` and its subtree are about to leave the tree.
     void nodeLeaving(const Node& node);
+    //! Unselects every node.
+    void clearSelection();
 
 private:
     friend class Node;
 
     void addTreeViewProperties();
     void layOut();
+    //! Lays `node`'s subtree out again where its lines were; false when it had none to
+    //! find its place by.
+    bool layOutAgain(Node& node);
+    //! The pre-order walk from `from` at indentation `x`: its lines, its strays (visible
+    //! nodes without a line); nodes that lose their line keep their last screen rectangle.
+    void walk(Node& from, float x, bool shown, std::vector<Line>& lines);
+    void place(const Line& line, const LineChunk& chunk);
     //! The mouse handlers' hit test: the laid-out lines, exactly as GetNodeAt on the root.
     Node* nodeAt(const Vector2f& point, bool& onNavigator);
     Node* hoverAt(const Vector2f& point);
@@ -296,12 +312,15 @@ private:
     Node* d_hoveredNode = nullptr;
 
     // The cache of the last layout.
-    std::vector<Line> d_lines;
+    std::unique_ptr<LineIndex> d_lines;
     //! Visible nodes with no line: hit where their last line was (or at the origin).
-    std::vector<std::pair<std::size_t, Node*>> d_strays;
+    std::vector<Node*> d_strays;
+    std::vector<Node*> d_changed;       //!< subtrees to lay out again
+    std::vector<Node*> d_selectedNodes; //!< every node selected since the last clearing
+    bool d_layOutAll = true;
     Sizef d_laidOutSize{0, 0};
     bool d_layoutValid = false;
-    bool d_indexValid = false;     //!< d_lines and d_strays still name living nodes
+    bool d_indexValid = false;     //!< d_lines and d_strays are those of the last draw
     bool d_hoverFlagsKnown = true; //!< only d_flaggedNode may carry a hover flag
     Node* d_flaggedNode = nullptr;
     Vector2f d_origin{0, 0};
