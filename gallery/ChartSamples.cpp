@@ -11,7 +11,7 @@ using namespace CEGUI;
 std::vector<Sample> chartSamples()
 {
     return {
-        {"MoxieLook/Diagram", 210,
+        {"MoxieLook/Diagram", 410,
          [](Card& card)
          {
              auto& stacked = static_cast<MoxieLook::Diagram&>(
@@ -40,6 +40,20 @@ std::vector<Sample> chartSamples()
                  wide.setValue("wave", static_cast<float>(x),
                                3 + 2.5f * std::sin(static_cast<float>(x) * 0.3f));
              wide.setUnitPixelSize(Sizef(12, -1));
+
+             // Far more values than pixels: each pixel column drawn once.
+             auto& dense = static_cast<MoxieLook::Diagram&>(
+                 card.add("MoxieLook/Diagram", "2 x 50,000 values, fitted: a column a pixel", 10,
+                          210, 600, 180));
+             dense.addMeasurement("noise", "Noise", Colour(0xFFF0A81C));
+             dense.addMeasurement("signal", "Signal", Colour(0xFF3B78D8));
+             dense.setSuperImposed(false);
+             for (int x = 0; x < 50000; ++x)
+             {
+                 const float t = static_cast<float>(x);
+                 dense.setValue("noise", t, std::sin(t * 0.37f) * std::sin(t * 0.0011f) * 4);
+                 dense.setValue("signal", t, 1.5f + std::sin(t * 0.0004f));
+             }
          }},
     };
 }
