@@ -312,14 +312,16 @@ TEST_F(TreeViewTest, TheLinesHitTestAgreesWithTheTreeWalk)
         }
     EXPECT_GT(hits, 100);
 
-    // After changes and a draw, hovering still flags exactly the node the walk finds: the
-    // hovered line removed, another title closed and opened, a line added.
-    std::function<int(const Node&)> flagged = [&](const Node& n)
+    // After changes and a draw, hovering leaves the very flags the hover walk leaves (the
+    // stray's rectangle overlaps a line: the walk flags both): the hovered line removed,
+    // another title closed and opened, a line added.
+    std::function<void(const Node&, std::vector<const Node*>&)> flagged =
+        [&](const Node& n, std::vector<const Node*>& out)
     {
-        int count = n.IsHovered();
+        if (n.IsHovered())
+            out.push_back(&n);
         for (const auto& child : n.GetChildren())
-            count += flagged(*child);
-        return count;
+            flagged(*child, out);
     };
     for (int round = 0; round < 3; ++round)
     {
@@ -330,11 +332,12 @@ TEST_F(TreeViewTest, TheLinesHitTestAgreesWithTheTreeWalk)
         drawnBy(*tree);
         for (float y = 5; y < 140; y += 4.5f)
         {
-            bool nav = false;
-            Node* walked = root->GetNodeAt(Vector2f(30, y), nav);
             moxietest::pointerTo(30, y);
-            EXPECT_EQ(flagged(*root), walked ? 1 : 0) << y;
-            EXPECT_TRUE(!walked || walked->IsHovered()) << y;
+            std::vector<const Node*> hovered, walked;
+            flagged(*root, hovered);
+            root->UpdateHoveringState(Vector2f(30, y));
+            flagged(*root, walked);
+            EXPECT_EQ(hovered, walked) << y;
         }
     }
 }
@@ -497,4 +500,43 @@ TEST_F(TreeViewTest, ChangesLaidOutWhereTheyHappenMatchAWholeLayout)
         mostLines = std::max(mostLines, tree->GetLaidOutLineCount());
     }
     EXPECT_GT(mostLines, 1000u);
+}
+
+TEST_F(TreeViewTest, ChangesBeforeOneDrawKeepTheLastDrawnPlacesAndForgetWhatLeft)
+{
+    Node* root = tree->GetRootNode();
+    Node* a = root->Add("A", "Title A", nullptr);
+    a->Add("a1", "Leaf a1", nullptr);
+    Node* b = root->Add("B", "Title B", nullptr);
+    Node* b1 = b->Add("b1", "Leaf b1", nullptr);
+    drawnBy(*tree);
+    const Rectf drawn = b1->GetHitRect();
+    // A line added above, then b1 losing its line: b1 keeps where the last draw put it.
+    a->Add("a2", "Leaf a2", nullptr);
+    b1->SetText("");
+    drawnBy(*tree);
+    EXPECT_EQ(b1->GetHitRect(), drawn);
+    b1->SetText("Leaf b1");
+    drawnBy(*tree);
+    EXPECT_EQ(b1->GetHitRect().top(), drawn.top() + drawn.getHeight() + 3);
+
+    // Nodes that leave before the draw leave no line behind: an empty title's children, a
+    // subtree part of which left already.
+    Node* empty = a->Add("E", "", nullptr);
+    empty->Add("e1", "Under the empty one", nullptr);
+    Node* p = b->Add("P", "Title P", nullptr);
+    Node* x = p->Add("x", "Leaf x", nullptr);
+    p->Add("y", "Leaf y", nullptr);
+    drawnBy(*tree);
+    const std::size_t lines = tree->GetLaidOutLineCount();
+    a->Remove(empty);
+    p->Remove(x);
+    b->Remove(p);
+    drawnBy(*tree);
+    EXPECT_EQ(tree->GetLaidOutLineCount(), lines - 4);
+
+    // An icon width set by hand lasts until the line is drawn again.
+    a->SetIconWidth(40);
+    drawnBy(*tree);
+    EXPECT_LT(a->GetIconWidth(), 40u);
 }

@@ -139,6 +139,20 @@ void TreeView::clearSelection()
     for (Node* node : d_selectedNodes)
         node->d_selected = false;
     d_selectedNodes.clear();
+    d_selectedKept = 0;
+}
+
+void TreeView::rememberSelected(Node& node)
+{
+    // Unselected and selected again, a node comes back: keep the list to what is selected.
+    if (d_selectedNodes.size() >= 2 * d_selectedKept + 64)
+    {
+        d_selectedNodes.erase(std::remove_if(d_selectedNodes.begin(), d_selectedNodes.end(),
+                                             [](Node* n) { return !n->d_selected; }),
+                              d_selectedNodes.end());
+        d_selectedKept = d_selectedNodes.size();
+    }
+    d_selectedNodes.push_back(&node);
 }
 
 void TreeView::nodeLeaving(const Node& node)
@@ -155,12 +169,24 @@ void TreeView::nodeLeaving(const Node& node)
     d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
                                   [&node](Node* n) { return isWithin(n, node); }),
                    d_strays.end());
-    // Its lines stay, nameless, until the next layout replaces them.
-    if (!node.d_hitRelative || !node.d_chunk || !d_lines)
+    // Its lines stay, nameless, until the next layout replaces them: every node of it that
+    // has one (an empty text's children have lines where it has none).
+    if (!d_lines)
         return;
-    for (auto at = d_lines->find(*node.d_chunk, node.d_hitRect.top() - 3.0f);
-         !d_lines->isEnd(at) && isWithin(d_lines->at(at).node, node); at = d_lines->next(at))
-        d_lines->orphan(at);
+    std::vector<const Node*> pending{&node};
+    while (!pending.empty())
+    {
+        const Node* n = pending.back();
+        pending.pop_back();
+        if (n->d_hitRelative && n->d_chunk)
+        {
+            const auto at = d_lines->find(*n->d_chunk, n->d_hitRect.top() - 3.0f);
+            if (!d_lines->isEnd(at) && d_lines->at(at).node == n)
+                d_lines->orphan(at);
+        }
+        for (const auto& child : n->d_children)
+            pending.push_back(child.get());
+    }
 }
 
 bool TreeView::RemoveNode(Node* node)
@@ -319,12 +345,15 @@ void TreeView::layOut()
             if (!inner && std::find(changed.begin(), changed.end(), node) == changed.end())
                 changed.push_back(node);
         }
-        for (Node* node : changed)
-            if (!layOutAgain(*node))
-            {
-                all = true;
-                break;
-            }
+        // Last in the walk first: laying one out moves only the lines after it, so the
+        // others still hold their last-drawn places when their nodes are frozen.
+        std::sort(changed.begin(), changed.end(),
+                  [](const Node* a, const Node* b) { return precedes(b, a); });
+        all = !std::all_of(changed.begin(), changed.end(),
+                           [this](const Node* n) { return canLayOutAgain(*n); });
+        if (!all)
+            for (Node* node : changed)
+                layOutAgain(*node);
     }
     if (all)
     {
@@ -341,26 +370,32 @@ void TreeView::layOut()
     d_indexValid = true;
 }
 
-bool TreeView::layOutAgain(Node& node)
+bool TreeView::canLayOutAgain(const Node& node) const
+{
+    if (node.d_hitRelative && node.d_chunk)
+    {
+        const LineIndex::Position at = d_lines->find(*node.d_chunk, node.d_hitRect.top() - 3.0f);
+        return !d_lines->isEnd(at) && d_lines->at(at).node == &node;
+    }
+    // No line to find its place by: fine while no line of its subtree can be shown.
+    for (const Node* n = node.d_parent; n; n = n->d_parent)
+        if (!n->IsOpened())
+            return true;
+    return false;
+}
+
+void TreeView::layOutAgain(Node& node)
 {
     if (!node.d_hitRelative || !node.d_chunk)
     {
-        // No line to find its place by: fine while no line of its subtree can be shown.
-        for (const Node* n = node.d_parent; n; n = n->d_parent)
-            if (!n->IsOpened())
-            {
-                std::vector<Line> none;
-                d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
-                                              [&node](Node* s) { return isWithin(s, node); }),
-                               d_strays.end());
-                walk(node, 0.0f, false, none);
-                return true;
-            }
-        return false;
+        std::vector<Line> none;
+        d_strays.erase(std::remove_if(d_strays.begin(), d_strays.end(),
+                                      [&node](Node* s) { return isWithin(s, node); }),
+                       d_strays.end());
+        walk(node, 0.0f, false, none);
+        return;
     }
     const LineIndex::Position first = d_lines->find(*node.d_chunk, node.d_hitRect.top() - 3.0f);
-    if (d_lines->isEnd(first) || d_lines->at(first).node != &node)
-        return false;
     LineIndex::Position last = d_lines->next(first);
     while (!d_lines->isEnd(last) &&
            (!d_lines->at(last).node || isWithin(d_lines->at(last).node, node)))
@@ -373,7 +408,6 @@ bool TreeView::layOutAgain(Node& node)
     walk(node, d_lines->at(first).x, true, lines);
     d_lines->replace(first, last, std::move(lines),
                      [this](const Line& line, const LineChunk& chunk) { place(line, chunk); });
-    return true;
 }
 
 void TreeView::walk(Node& from, float fromX, bool fromShown, std::vector<Line>& lines)

@@ -84,7 +84,8 @@ public:
         const String& GetText() const { return d_text; }
         void SetIcon(const Image* icon);
         const Image* GetIcon() const { return d_icon; }
-        void SetIconWidth(unsigned width) { d_iconWidth = width; }
+        //! Until the line is drawn again, which measures it anew.
+        void SetIconWidth(unsigned width);
         //! Whole-pixel width of the navigation image at the last draw: the navigator's zone.
         unsigned GetIconWidth() const { return d_iconWidth; }
         void SetData(void* data) { d_data = data; }
@@ -154,8 +155,14 @@ public:
         friend class TreeView;
 
         Node* hitTest(const Vector2f& point, bool& onNavigator, float rowRight);
+        //! The nodes a hover walk flagged: one, or several.
+        struct Flagged
+        {
+            Node* first = nullptr;
+            bool several = false;
+        };
         //! UpdateHoveringState's walk, without asking for the tree at every node.
-        Node* updateHover(const Vector2f& point);
+        Node* updateHover(const Vector2f& point, Flagged& flagged);
         void SetVisible(bool visible);
         void selectIn(bool select, bool recursive, TreeView* owner);
         float textWidth(const Font& font, std::uint32_t epoch);
@@ -280,21 +287,26 @@ protected:
     void nodeLeaving(const Node& node);
     //! Unselects every node.
     void clearSelection();
+    void rememberSelected(Node& node);
 
 private:
     friend class Node;
 
     void addTreeViewProperties();
     void layOut();
-    //! Lays `node`'s subtree out again where its lines were; false when it had none to
-    //! find its place by.
-    bool layOutAgain(Node& node);
+    //! Whether layOutAgain can: `node` has a line to find its place by, or no line of its
+    //! subtree can be shown.
+    bool canLayOutAgain(const Node& node) const;
+    //! Lays `node`'s subtree out again where its lines were.
+    void layOutAgain(Node& node);
     //! The pre-order walk from `from` at indentation `x`: its lines, its strays (visible
     //! nodes without a line); nodes that lose their line keep their last screen rectangle.
     void walk(Node& from, float x, bool shown, std::vector<Line>& lines);
     void place(const Line& line, const LineChunk& chunk);
     //! The mouse handlers' hit test: the laid-out lines, exactly as GetNodeAt on the root.
     Node* nodeAt(const Vector2f& point, bool& onNavigator);
+    //! `several`: more than one node's rectangle holds the point.
+    Node* nodeAt(const Vector2f& point, bool& onNavigator, bool& several);
     Node* hoverAt(const Vector2f& point);
     void fireItemEvent(const String& name, Node* node);
 
@@ -317,6 +329,7 @@ private:
     std::vector<Node*> d_strays;
     std::vector<Node*> d_changed;       //!< subtrees to lay out again
     std::vector<Node*> d_selectedNodes; //!< every node selected since the last clearing
+    std::size_t d_selectedKept = 0;     //!< its size when last rid of unselected nodes
     bool d_layOutAll = true;
     Sizef d_laidOutSize{0, 0};
     bool d_layoutValid = false;

@@ -4,6 +4,7 @@
 #include "widgets/TreeView.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace CEGUI
 {
@@ -37,6 +38,24 @@ inline bool isWithin(const TreeView::Node* node, const TreeView::Node& subtree)
         if (node == &subtree)
             return true;
     return false;
+}
+//! Whether `a` comes before `b` in a pre-order walk of their tree.
+inline bool precedes(const TreeView::Node* a, const TreeView::Node* b)
+{
+    std::vector<const TreeView::Node*> pathA, pathB;
+    for (; a; a = a->GetParent())
+        pathA.push_back(a);
+    for (; b; b = b->GetParent())
+        pathB.push_back(b);
+    auto ia = pathA.rbegin(), ib = pathB.rbegin();
+    while (ia != pathA.rend() && ib != pathB.rend() && *ia == *ib)
+        ++ia, ++ib;
+    if (ia == pathA.rend())
+        return ib != pathB.rend(); // an ancestor comes first
+    if (ib == pathB.rend())
+        return false;
+    const TreeView::Node* parent = (*ia)->GetParent();
+    return parent->GetChildIndex(*ia) < parent->GetChildIndex(*ib);
 }
 } // namespace treeview
 } // namespace MoxieLook

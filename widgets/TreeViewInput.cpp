@@ -14,30 +14,15 @@ namespace MoxieLook
 {
 using namespace treeview;
 
-namespace
-{
-// Whether `a` comes before `b` in a pre-order walk of their tree.
-bool precedes(const TreeView::Node* a, const TreeView::Node* b)
-{
-    std::vector<const TreeView::Node*> pathA, pathB;
-    for (; a; a = a->GetParent())
-        pathA.push_back(a);
-    for (; b; b = b->GetParent())
-        pathB.push_back(b);
-    auto ia = pathA.rbegin(), ib = pathB.rbegin();
-    while (ia != pathA.rend() && ib != pathB.rend() && *ia == *ib)
-        ++ia, ++ib;
-    if (ia == pathA.rend())
-        return ib != pathB.rend(); // an ancestor comes first
-    if (ib == pathB.rend())
-        return false;
-    const TreeView::Node* parent = (*ia)->GetParent();
-    return parent->GetChildIndex(*ia) < parent->GetChildIndex(*ib);
-}
-} // namespace
-
 TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator)
 {
+    bool several = false;
+    return nodeAt(point, onNavigator, several);
+}
+
+TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator, bool& several)
+{
+    several = false;
     if (!d_indexValid)
         return d_root->GetNodeAt(point, onNavigator);
     // At most one line holds the point's height; a stray earlier in the walk wins over it.
@@ -55,8 +40,12 @@ TreeView::Node* TreeView::nodeAt(const Vector2f& point, bool& onNavigator)
         }
     }
     for (Node* stray : d_strays)
-        if (withinRow(stray->GetHitRect(), rowRight, point) && (!best || precedes(stray, best)))
-            best = stray;
+        if (withinRow(stray->GetHitRect(), rowRight, point))
+        {
+            several = several || best;
+            if (!best || precedes(stray, best))
+                best = stray;
+        }
     if (best)
         onNavigator = !best->IsLeaf() && point.d_x <= best->GetHitRect().left() + best->d_iconWidth;
     return best;
@@ -67,7 +56,11 @@ TreeView::Node* TreeView::hoverAt(const Vector2f& point)
     if (!d_hoverFlagsKnown || !d_indexValid)
         return d_root->UpdateHoveringState(point);
     bool onNavigator = false;
-    Node* found = nodeAt(point, onNavigator);
+    bool several = false;
+    Node* found = nodeAt(point, onNavigator, several);
+    // Where rectangles overlap, the hover walk flags more than the first: walk.
+    if (several)
+        return d_root->UpdateHoveringState(point);
     if (d_flaggedNode)
         d_flaggedNode->d_hovered = false;
     if (found)

@@ -56,6 +56,12 @@ void TreeView::Node::SetIcon(const Image* icon)
     changed(true);
 }
 
+void TreeView::Node::SetIconWidth(unsigned width)
+{
+    d_iconWidth = width;
+    changed(true);
+}
+
 unsigned TreeView::Node::GetDepth() const
 {
     unsigned depth = 0;
@@ -199,7 +205,7 @@ void TreeView::Node::selectIn(bool select, bool recursive, TreeView* owner)
 {
     // The tree keeps every node it saw selected, so that a click need not walk them all.
     if (select && !d_selected && owner)
-        owner->d_selectedNodes.push_back(this);
+        owner->rememberSelected(*this);
     d_selected = select;
     if (recursive)
         for (const auto& child : d_children)
@@ -258,28 +264,35 @@ TreeView::Node* TreeView::Node::GetNodeAt(const Vector2f& point, bool& onNavigat
 
 TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
 {
-    Node* found = updateHover(point);
+    Flagged flagged;
+    Node* found = updateHover(point, flagged);
     if (TreeView* owner = tree())
     {
-        // From the root, the flags are now exactly as this walk left them; from below it,
-        // a flag elsewhere may remain.
-        owner->d_flaggedNode = d_parent ? nullptr : found;
-        owner->d_hoverFlagsKnown = !d_parent;
+        // From the root, the flags are now exactly as this walk left them, one node at most
+        // (overlapping rectangles can leave several); from below it, a flag elsewhere may
+        // remain.
+        const bool known = !d_parent && !flagged.several;
+        owner->d_flaggedNode = known ? flagged.first : nullptr;
+        owner->d_hoverFlagsKnown = known;
     }
     return found;
 }
 
-TreeView::Node* TreeView::Node::updateHover(const Vector2f& point)
+TreeView::Node* TreeView::Node::updateHover(const Vector2f& point, Flagged& flagged)
 {
     bool onNavigator = false;
     Node* found = GetNodeAt(point, onNavigator);
     d_hovered = false;
     Node* last = nullptr;
     for (const auto& child : d_children)
-        if (Node* result = child->updateHover(point))
+        if (Node* result = child->updateHover(point, flagged))
             last = result;
     if (found)
+    {
         found->d_hovered = true;
+        flagged.several = flagged.several || (flagged.first && flagged.first != found);
+        flagged.first = found;
+    }
     return found ? found : last;
 }
 
