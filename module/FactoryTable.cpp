@@ -34,6 +34,7 @@
 #include "looks/MXTreeView.h"
 #include "looks/MXTreeViewMultiColumnListEx.h"
 #include "looks/MXWidgetDropDownList.h"
+#include "module/KeyboardNavigation.h"
 
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowRendererManager.h>
@@ -236,6 +237,7 @@ WindowFactory* findModuleFactory(const char* typeName)
 
 void addToCegui(const FactoryEntry& entry)
 {
+    attachKeyboardNavigation();
     WindowFactoryManager::getSingleton().addFactory(entry.factory);
     WindowRendererManager& renderers = WindowRendererManager::getSingleton();
     if (entry.renderer && !renderers.isFactoryPresent(entry.renderer->getName()))

@@ -259,6 +259,11 @@ bool ButtonEx::MouseMove(const EventArgs& args)
     return true;
 }
 
+void ButtonEx::PlayClickSound()
+{
+    MXSoundification::GetInstance().PlaySound(this, d_clickSound);
+}
+
 bool ButtonEx::MouseUp(const EventArgs& args)
 {
     const auto& mouse = static_cast<const MouseEventArgs&>(args);

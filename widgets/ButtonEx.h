@@ -96,6 +96,8 @@ public:
     void RemoveDropTarget(Window* window);
     void ClearDropTargets() { d_dropTargets.clear(); }
     void SetSourceDragInfo(const std::string& info) { d_sourceDragInfo = info; }
+    //! The sound of a click, for a click made without the mouse (a key).
+    void PlayClickSound();
     const std::string& GetSourceDragInfo() const { return d_sourceDragInfo; }
 
     //! The inner rectangle (inside the frame of the standard imagery, the whole window

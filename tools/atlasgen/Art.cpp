@@ -643,6 +643,8 @@ void paintWidgets(Atlas& atlas)
     addGradient(atlas, "DiagramBackground", 4, 16, hex(0x2F3B48), hex(0x25303B));
     // Diagram pieces are white so that each series' colour tints them.
     addGradient(atlas, "DiagramBase", 4, 4, White, White);
+    // The keyboard focus ring's bars: the accent of focus and selection.
+    addGradient(atlas, "FocusRing", 4, 4, Accent, Accent);
     atlas.add("DiagramCorner", 8, 8,
               [](cairo_t* cr, double w, double h)
               {

@@ -1,0 +1,450 @@
+#include "module/KeyboardNavigation.h"
+
+#include "draw/Imagery.h"
+#include "widgets/ButtonEx.h"
+#include "widgets/RadioButtonEx.h"
+#include "widgets/ToggleButton.h"
+#include "widgets/TreeView.h"
+#include "widgets/WidgetDropDownListbox.h"
+
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/GlobalEventSet.h>
+#include <CEGUI/InputEvent.h>
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/Combobox.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/FrameWindow.h>
+#include <CEGUI/widgets/ItemListbox.h>
+#include <CEGUI/widgets/Listbox.h>
+#include <CEGUI/widgets/Menubar.h>
+#include <CEGUI/widgets/MultiColumnList.h>
+#include <CEGUI/widgets/MultiLineEditbox.h>
+#include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/RadioButton.h>
+#include <CEGUI/widgets/Slider.h>
+#include <CEGUI/widgets/Spinner.h>
+#include <CEGUI/widgets/TabControl.h>
+#include <CEGUI/widgets/ToggleButton.h>
+#include <CEGUI/widgets/Tree.h>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <vector>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+constexpr char TabStopKey[] = "MoxieLook.TabStop";
+constexpr float RingWidth = 2.0f;
+
+class TabStopProperty : public Property
+{
+public:
+    TabStopProperty()
+        : Property("TabStop",
+                   "Property to get/set whether Tab and the arrow keys stop at the widget. "
+                   "Value is either \"True\" or \"False\".",
+                   "True", true, "bool", "MoxieLook/KeyboardNavigation")
+    {
+    }
+    String get(const PropertyReceiver* receiver) const override
+    {
+        const auto* window = static_cast<const Window*>(receiver);
+        return window->isUserStringDefined(TabStopKey) ? window->getUserString(TabStopKey)
+                                                       : String("True");
+    }
+    void set(PropertyReceiver* receiver, const String& value) override
+    {
+        static_cast<Window*>(receiver)->setUserString(
+            TabStopKey, PropertyHelper<bool>::toString(PropertyHelper<bool>::fromString(value)));
+    }
+    Property* clone() const override { return new TabStopProperty(*this); }
+};
+
+TabStopProperty s_tabStop;
+
+bool isMoxieLook(const Window& window)
+{
+    return window.getType().compare(0, 10, "MoxieLook/") == 0;
+}
+
+// The widgets one operates, as opposed to labels, frames and containers.
+bool isOperable(const Window& w)
+{
+    return dynamic_cast<const PushButton*>(&w) || dynamic_cast<const CEGUI::ToggleButton*>(&w) ||
+           dynamic_cast<const RadioButton*>(&w) || dynamic_cast<const Editbox*>(&w) ||
+           dynamic_cast<const MultiLineEditbox*>(&w) || dynamic_cast<const Spinner*>(&w) ||
+           dynamic_cast<const Slider*>(&w) || dynamic_cast<const Listbox*>(&w) ||
+           dynamic_cast<const Combobox*>(&w) || dynamic_cast<const MultiColumnList*>(&w) ||
+           dynamic_cast<const ItemListbox*>(&w) || dynamic_cast<const Menubar*>(&w) ||
+           dynamic_cast<const TabControl*>(&w) || dynamic_cast<const Tree*>(&w) ||
+           dynamic_cast<const TreeView*>(&w) || dynamic_cast<const WidgetDropDownListbox*>(&w);
+}
+
+// Widgets that leave the arrow keys to move the focus.
+bool leavesArrows(const Window& w)
+{
+    return dynamic_cast<const PushButton*>(&w) || dynamic_cast<const CEGUI::ToggleButton*>(&w) ||
+           dynamic_cast<const RadioButton*>(&w);
+}
+
+struct ContextState
+{
+    bool enabled = true;
+    bool ringShown = false;
+    Window* ringOwner = nullptr;
+    Event::Connection drawn;
+    Event::Connection gone;
+};
+
+std::map<const GUIContext*, ContextState>& states()
+{
+    static std::map<const GUIContext*, ContextState> all;
+    return all;
+}
+
+ContextState& stateOf(const GUIContext& context)
+{
+    return states()[&context];
+}
+
+// Calls the protected click handler, as a released mouse button would.
+struct ClickAccess : PushButton
+{
+    static void click(PushButton& button)
+    {
+        WindowEventArgs args(&button);
+        (button.*(&ClickAccess::onClicked))(args);
+    }
+};
+
+void drawRing(Window& window)
+{
+    if (!isFocusable(window))
+        return;
+    const Sizef size = window.getPixelSize();
+    if (size.d_width < 2 * RingWidth || size.d_height < 2 * RingWidth)
+        return;
+    const ColourRect colours(withAlpha(Colour(0x00FFFFFF), window.getEffectiveAlpha()));
+    const Image& bar = lookImage("FocusRing");
+    GeometryBuffer& buffer = window.getGeometryBuffer();
+    const float w = size.d_width, h = size.d_height;
+    for (const Rectf& side : {Rectf(0, 0, w, RingWidth), Rectf(0, h - RingWidth, w, h),
+                              Rectf(0, RingWidth, RingWidth, h - RingWidth),
+                              Rectf(w - RingWidth, RingWidth, w, h - RingWidth)})
+        bar.render(buffer, side, nullptr, colours);
+}
+
+bool connected(const Event::Connection& connection)
+{
+    return connection.isValid() && connection->connected();
+}
+
+void setRing(ContextState& state, Window* owner, bool shown)
+{
+    if (state.ringOwner && (state.ringOwner != owner || state.ringShown != shown))
+        state.ringOwner->invalidate();
+    if (owner != state.ringOwner)
+    {
+        for (Event::Connection* c : {&state.drawn, &state.gone})
+            if (connected(*c))
+                (*c)->disconnect();
+        if (owner)
+        {
+            ContextState* kept = &state;
+            state.drawn = owner->subscribeEvent(Window::EventRenderingEnded,
+                                                [owner, kept](const EventArgs&)
+                                                {
+                                                    if (kept->ringShown && kept->ringOwner == owner)
+                                                        drawRing(*owner);
+                                                    return false;
+                                                });
+            state.gone = owner->subscribeEvent(Window::EventDestructionStarted,
+                                               [kept](const EventArgs&)
+                                               {
+                                                   kept->ringOwner = nullptr;
+                                                   kept->ringShown = false;
+                                                   return false;
+                                               });
+        }
+    }
+    state.ringOwner = owner;
+    state.ringShown = shown && owner;
+    if (owner)
+        owner->invalidate();
+}
+
+// The window the keys go to decides where Tab looks: its outermost frame window, the modal
+// window, or the whole sheet.
+Window* scopeOf(const GUIContext& context, Window* from)
+{
+    if (Window* modal = context.getModalWindow())
+        return modal;
+    Window* scope = context.getRootWindow();
+    for (Window* w = from; w; w = w->getParent())
+        if (dynamic_cast<FrameWindow*>(w))
+            scope = w;
+    return scope;
+}
+
+void collect(Window& parent, std::vector<Window*>& out)
+{
+    for (std::size_t i = 0; i < parent.getChildCount(); ++i)
+    {
+        Window& child = *parent.getChildAtIdx(i);
+        if (!child.isVisible())
+            continue;
+        if (isFocusable(child))
+            out.push_back(&child);
+        collect(child, out);
+    }
+}
+
+Vector2f centreOf(const Window& window)
+{
+    const Rectf r = window.getUnclippedOuterRect().get();
+    return Vector2f((r.left() + r.right()) * 0.5f, (r.top() + r.bottom()) * 0.5f);
+}
+
+// The nearest widget whose centre lies in the direction (dx, dy) from `from`'s: distance
+// along the direction, plus twice the distance across it.
+Window* nearestToward(const std::vector<Window*>& candidates, const Window& from, float dx,
+                      float dy)
+{
+    const Vector2f origin = centreOf(from);
+    Window* best = nullptr;
+    float bestScore = std::numeric_limits<float>::infinity();
+    for (Window* candidate : candidates)
+    {
+        if (candidate == &from)
+            continue;
+        const Vector2f c = centreOf(*candidate);
+        const float along = (c.d_x - origin.d_x) * dx + (c.d_y - origin.d_y) * dy;
+        const float across = std::fabs((c.d_x - origin.d_x) * dy - (c.d_y - origin.d_y) * dx);
+        if (along <= 0)
+            continue;
+        const float score = along + 2 * across;
+        if (score < bestScore)
+        {
+            bestScore = score;
+            best = candidate;
+        }
+    }
+    return best;
+}
+
+bool moveFocus(GUIContext& context, Window* target)
+{
+    if (!target)
+        return false;
+    target->activate();
+    setRing(stateOf(context), target, true);
+    return true;
+}
+
+bool tab(GUIContext& context, Window* focused, bool backwards)
+{
+    std::vector<Window*> order;
+    if (Window* scope = scopeOf(context, focused))
+    {
+        if (isFocusable(*scope))
+            order.push_back(scope);
+        collect(*scope, order);
+    }
+    if (order.empty())
+        return false;
+    const auto at = std::find(order.begin(), order.end(), focused);
+    if (at == order.end())
+        return moveFocus(context, backwards ? order.back() : order.front());
+    const std::size_t i = static_cast<std::size_t>(at - order.begin());
+    const std::size_t n = order.size();
+    return moveFocus(context, order[backwards ? (i + n - 1) % n : (i + 1) % n]);
+}
+
+bool arrow(GUIContext& context, Window& focused, float dx, float dy)
+{
+    if (!leavesArrows(focused))
+        return false;
+    std::vector<Window*> candidates;
+    if (Window* scope = scopeOf(context, &focused))
+        collect(*scope, candidates);
+    return moveFocus(context, nearestToward(candidates, focused, dx, dy));
+}
+
+// What a click does, by keys: the same events and sounds.
+bool operate(Window& focused)
+{
+    if (auto* ours = dynamic_cast<RadioButtonEx*>(&focused))
+        ours->setSelected(true);
+    else if (auto* ownToggle = dynamic_cast<MoxieLook::ToggleButton*>(&focused))
+        ownToggle->setSelected(!ownToggle->isSelected());
+    else if (auto* radio = dynamic_cast<RadioButton*>(&focused))
+    {
+        radio->setSelected(true);
+        return true;
+    }
+    else if (auto* toggle = dynamic_cast<CEGUI::ToggleButton*>(&focused))
+    {
+        toggle->setSelected(!toggle->isSelected());
+        return true;
+    }
+    else if (auto* combo = dynamic_cast<Combobox*>(&focused))
+    {
+        combo->showDropList();
+        return true;
+    }
+    if (auto* button = dynamic_cast<PushButton*>(&focused))
+    {
+        if (auto* extended = dynamic_cast<ButtonEx*>(button))
+            extended->PlayClickSound();
+        ClickAccess::click(*button);
+        return true;
+    }
+    return false;
+}
+
+bool close(Window& focused)
+{
+    if (auto* combo = dynamic_cast<Combobox*>(&focused); combo && combo->isDropDownListVisible())
+    {
+        combo->hideDropList();
+        return true;
+    }
+    return false;
+}
+
+// A box one types into keeps Space (and, unless read-only, its own keys).
+bool typesInto(const Window& target)
+{
+    const auto* box = dynamic_cast<const Editbox*>(&target);
+    return box && !box->isReadOnly();
+}
+
+bool onKeyDown(const EventArgs& args)
+{
+    const auto& key = static_cast<const KeyEventArgs&>(args);
+    Window* window = key.window;
+    if (key.handled || !window)
+        return false;
+    GUIContext& context = window->getGUIContext();
+    // Taken where the key arrives, before the widget's own handling (widgets fire the
+    // event first): an edit box would otherwise take Tab for itself.
+    Window* root = context.getRootWindow();
+    Window* modal = context.getModalWindow();
+    Window* target = modal ? modal->getActiveChild() : root ? root->getActiveChild() : nullptr;
+    if (modal && !target)
+        target = modal;
+    if (window != target || !stateOf(context).enabled)
+        return false;
+    Window* focused = focusedWidget(context);
+    const bool shift = (key.sysKeys & Shift) != 0;
+    const bool control = (key.sysKeys & Control) != 0;
+    switch (key.scancode)
+    {
+    case Key::Tab:
+        // A multi-line box keeps Tab for its text unless Ctrl is held.
+        if (focused && dynamic_cast<MultiLineEditbox*>(focused) && !control)
+            return false;
+        return tab(context, focused, shift);
+    case Key::ArrowUp:
+        return focused && arrow(context, *focused, 0, -1);
+    case Key::ArrowDown:
+        return focused && arrow(context, *focused, 0, 1);
+    case Key::ArrowLeft:
+        return focused && arrow(context, *focused, -1, 0);
+    case Key::ArrowRight:
+        return focused && arrow(context, *focused, 1, 0);
+    case Key::Space:
+        if (typesInto(*target))
+            return false;
+        [[fallthrough]];
+    case Key::Return:
+    case Key::NumpadEnter:
+        return focused && isFocusable(*focused) && operate(*focused);
+    case Key::Escape:
+        return focused && close(*focused);
+    default:
+        return false;
+    }
+}
+
+bool onMouseDown(const EventArgs& args)
+{
+    const auto& mouse = static_cast<const MouseEventArgs&>(args);
+    if (!mouse.window)
+        return false;
+    ContextState& state = stateOf(mouse.window->getGUIContext());
+    if (state.ringShown)
+        setRing(state, state.ringOwner, false); // a click hides the ring, as in browsers
+    return false;
+}
+
+bool onWindowCreated(const EventArgs& args)
+{
+    Window* window = static_cast<const WindowEventArgs&>(args).window;
+    if (window && isMoxieLook(*window) && isOperable(*window) &&
+        !window->isPropertyPresent(s_tabStop.getName()))
+        window->addProperty(&s_tabStop);
+    return false;
+}
+
+} // namespace
+
+void setKeyboardNavigation(GUIContext& context, bool enabled)
+{
+    ContextState& state = stateOf(context);
+    state.enabled = enabled;
+    if (!enabled)
+        setRing(state, nullptr, false);
+}
+
+bool isKeyboardNavigationEnabled(const GUIContext& context)
+{
+    const auto found = states().find(&context);
+    return found == states().end() || found->second.enabled;
+}
+
+bool isFocusable(const Window& window)
+{
+    if (!isMoxieLook(window) || window.isAutoWindow() || !isOperable(window) ||
+        !window.isEffectiveVisible() || window.isEffectiveDisabled())
+        return false;
+    return !window.isUserStringDefined(TabStopKey) ||
+           PropertyHelper<bool>::fromString(window.getUserString(TabStopKey));
+}
+
+Window* focusedWidget(const GUIContext& context)
+{
+    Window* root = context.getRootWindow();
+    Window* active = root ? root->getActiveChild() : nullptr;
+    while (active && active->isAutoWindow() && active->getParent())
+        active = active->getParent();
+    return active == root ? nullptr : active;
+}
+
+bool hasFocusRing(const Window& window)
+{
+    const auto found = states().find(&window.getGUIContext());
+    return found != states().end() && found->second.ringShown &&
+           found->second.ringOwner == &window && isFocusable(window);
+}
+
+void attachKeyboardNavigation()
+{
+    static Event::Connection keys, mouse, created;
+    if (GlobalEventSet* events = GlobalEventSet::getSingletonPtr(); events && !connected(keys))
+    {
+        keys = events->subscribeEvent("Window/" + Window::EventKeyDown, &onKeyDown);
+        mouse = events->subscribeEvent("Window/" + Window::EventMouseButtonDown, &onMouseDown);
+        states().clear(); // a new CEGUI: the old contexts are gone
+    }
+    if (WindowManager* windows = WindowManager::getSingletonPtr(); windows && !connected(created))
+        created = windows->subscribeEvent(WindowManager::EventWindowCreated, &onWindowCreated);
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI

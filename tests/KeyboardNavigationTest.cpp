@@ -1,0 +1,199 @@
+#include "module/KeyboardNavigation.h"
+
+#include "support/DrawnQuads.h"
+#include "support/Gui.h"
+#include "widgets/RadioButtonEx.h"
+
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/Combobox.h>
+#include <CEGUI/widgets/FrameWindow.h>
+#include <CEGUI/widgets/ListboxTextItem.h>
+#include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/ToggleButton.h>
+#include <gtest/gtest.h>
+
+using namespace CEGUI;
+using namespace CEGUI::MoxieLook;
+using moxietest::drawnBy;
+
+namespace
+{
+class KeyboardNavigationTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { moxietest::freshSheet(); }
+    void TearDown() override { setKeyboardNavigation(moxietest::context(), true); }
+
+    static void press(Key::Scan key, bool shift = false, bool control = false)
+    {
+        GUIContext& gui = moxietest::context();
+        if (shift)
+            gui.injectKeyDown(Key::LeftShift);
+        if (control)
+            gui.injectKeyDown(Key::LeftControl);
+        gui.injectKeyDown(key);
+        gui.injectKeyUp(key);
+        if (control)
+            gui.injectKeyUp(Key::LeftControl);
+        if (shift)
+            gui.injectKeyUp(Key::LeftShift);
+    }
+    static Window* focused() { return focusedWidget(moxietest::context()); }
+
+    // A frame window holding a button, an edit box, a check box and a multi-line box, and
+    // a button outside it.
+    void buildDialog()
+    {
+        frame = &moxietest::place("MoxieLook/FrameWindow", 10, 10, 400, 300);
+        auto add = [this](const char* type, float x, float y)
+        {
+            Window* w = WindowManager::getSingleton().createWindow(type);
+            w->setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
+                       USize(cegui_absdim(120), cegui_absdim(28)));
+            w->setText(type);
+            frame->addChild(w);
+            return w;
+        };
+        ok = add("MoxieLook/Button", 10, 40);
+        name = add("MoxieLook/Editbox", 150, 40);
+        hints = add("MoxieLook/Checkbox", 10, 90);
+        notes = add("MoxieLook/MultiLineEditbox", 150, 90);
+        label = add("MoxieLook/StaticText", 10, 140);
+        outside = &moxietest::place("MoxieLook/Button", 450, 10, 100, 28);
+    }
+
+    Window* frame = nullptr;
+    Window *ok = nullptr, *name = nullptr, *hints = nullptr, *notes = nullptr, *label = nullptr,
+           *outside = nullptr;
+};
+
+std::vector<moxietest::DrawnQuad> ringOf(Window& window)
+{
+    std::vector<moxietest::DrawnQuad> ring;
+    for (const auto& quad : drawnBy(window))
+        if (quad.image == "FocusRing")
+            ring.push_back(quad);
+    return ring;
+}
+} // namespace
+
+TEST_F(KeyboardNavigationTest, TabWalksTheFrameInOrderWrapsAndSkipsWhatCannotTakeIt)
+{
+    buildDialog();
+    moxietest::click(moxietest::centreOf(*ok).d_x, moxietest::centreOf(*ok).d_y);
+    ASSERT_EQ(focused(), ok);
+    // Labels are no stops; the other window's button is outside this frame.
+    std::vector<Window*> seen;
+    for (int i = 0; i < 3; ++i)
+    {
+        press(Key::Tab);
+        seen.push_back(focused());
+    }
+    EXPECT_EQ(seen, (std::vector<Window*>{name, hints, notes}));
+    // The multi-line box keeps Tab for its text; Ctrl+Tab leaves it, round to the first.
+    // Shift goes back, round to the last.
+    press(Key::Tab);
+    EXPECT_EQ(focused(), notes);
+    press(Key::Tab, false, true);
+    EXPECT_EQ(focused(), ok);
+    press(Key::Tab, true);
+    EXPECT_EQ(focused(), notes);
+    press(Key::Tab, true, true);
+    EXPECT_EQ(focused(), hints);
+    press(Key::Tab, true);
+    press(Key::Tab, true);
+    EXPECT_EQ(focused(), ok);
+    // Opted out, disabled or hidden: passed over.
+    EXPECT_EQ(name->getProperty("TabStop"), "True");
+    name->setProperty("TabStop", "False");
+    hints->disable();
+    press(Key::Tab);
+    EXPECT_EQ(focused(), notes);
+    notes->hide();
+    press(Key::Tab, false, true);
+    EXPECT_EQ(focused(), ok);
+    EXPECT_FALSE(label->isPropertyPresent("TabStop"));
+    // Turned off by the host, Tab does nothing.
+    setKeyboardNavigation(moxietest::context(), false);
+    EXPECT_FALSE(isKeyboardNavigationEnabled(moxietest::context()));
+    press(Key::Tab);
+    EXPECT_EQ(focused(), ok);
+}
+
+TEST_F(KeyboardNavigationTest, KeysClickToggleSelectAndOpenAsTheMouseWould)
+{
+    Window& button = moxietest::place("MoxieLook/Button", 10, 10, 100, 28);
+    Window& check = moxietest::place("MoxieLook/Checkbox", 10, 50, 140, 24);
+    Window& radio = moxietest::place("MoxieLook/RadioButton", 10, 90, 140, 24);
+    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 200, 10, 160, 140));
+    combo.addItem(new ListboxTextItem("One"));
+    int clicks = 0;
+    button.subscribeEvent(PushButton::EventClicked,
+                          [&clicks](const EventArgs&) { return ++clicks > 0; });
+    button.activate();
+    press(Key::Space);
+    press(Key::Return);
+    EXPECT_EQ(clicks, 2);
+    check.activate();
+    press(Key::Space);
+    EXPECT_TRUE(static_cast<ToggleButton&>(check).isSelected());
+    press(Key::Return);
+    EXPECT_FALSE(static_cast<ToggleButton&>(check).isSelected());
+    radio.activate();
+    press(Key::Space);
+    EXPECT_TRUE(static_cast<RadioButtonEx&>(radio).isSelected());
+    combo.activate();
+    press(Key::Return);
+    EXPECT_TRUE(combo.isDropDownListVisible());
+    press(Key::Escape);
+    EXPECT_FALSE(combo.isDropDownListVisible());
+}
+
+TEST_F(KeyboardNavigationTest, ArrowsMoveFromButtonsToTheNearestWidgetThatWay)
+{
+    // Two rows of two buttons; a gamepad's pad walks them.
+    Window& a = moxietest::place("MoxieLook/Button", 10, 10, 100, 28);
+    Window& b = moxietest::place("MoxieLook/Button", 200, 14, 100, 28);
+    Window& c = moxietest::place("MoxieLook/Button", 10, 100, 100, 28);
+    Window& d = moxietest::place("MoxieLook/Button", 200, 100, 100, 28);
+    a.activate();
+    press(Key::ArrowRight);
+    EXPECT_EQ(focused(), &b);
+    press(Key::ArrowDown);
+    EXPECT_EQ(focused(), &d);
+    press(Key::ArrowLeft);
+    EXPECT_EQ(focused(), &c);
+    press(Key::ArrowUp);
+    EXPECT_EQ(focused(), &a);
+    press(Key::ArrowUp); // nothing above: stays
+    EXPECT_EQ(focused(), &a);
+}
+
+TEST_F(KeyboardNavigationTest, TheRingShowsAfterKeysOnlyAndOnlyOnWhatCanTakeTheFocus)
+{
+    Window& first = moxietest::place("MoxieLook/Button", 10, 10, 100, 30);
+    Window& second = moxietest::place("MoxieLook/Button", 10, 60, 100, 30);
+    moxietest::click(60, 25);
+    EXPECT_TRUE(ringOf(first).empty()); // the mouse moved the focus
+    press(Key::Tab);
+    ASSERT_EQ(focused(), &second);
+    EXPECT_TRUE(hasFocusRing(second));
+    EXPECT_TRUE(ringOf(first).empty());
+    // Four bars of two pixels along the edges, over the button's own drawing.
+    const auto ring = ringOf(second);
+    ASSERT_EQ(ring.size(), 4u);
+    EXPECT_EQ(ring[0].rect, Rectf(0, 0, 100, 2));
+    EXPECT_EQ(ring[1].rect, Rectf(0, 28, 100, 30));
+    EXPECT_EQ(ring[2].rect, Rectf(0, 2, 2, 28));
+    EXPECT_EQ(ring[3].rect, Rectf(98, 2, 100, 28));
+    EXPECT_EQ(drawnBy(second).back().image, "FocusRing");
+    // Disabled, it is no stop: no ring. A click hides it.
+    second.disable();
+    EXPECT_TRUE(ringOf(second).empty());
+    second.enable();
+    EXPECT_EQ(ringOf(second).size(), 4u);
+    moxietest::click(60, 25);
+    EXPECT_TRUE(ringOf(second).empty());
+    EXPECT_FALSE(hasFocusRing(first));
+}
