@@ -1,6 +1,7 @@
 #include "module/KeyboardNavigation.h"
 
 #include "draw/Imagery.h"
+#include "module/WidgetKeys.h"
 #include "widgets/ButtonEx.h"
 #include "widgets/RadioButtonEx.h"
 #include "widgets/ToggleButton.h"
@@ -297,6 +298,11 @@ bool operate(Window& focused)
         combo->showDropList();
         return true;
     }
+    else if (auto* selector = dynamic_cast<WidgetDropDownListbox*>(&focused))
+    {
+        selector->ShowDropList();
+        return true;
+    }
     if (auto* button = dynamic_cast<PushButton*>(&focused))
     {
         if (auto* extended = dynamic_cast<ButtonEx*>(button))
@@ -312,6 +318,12 @@ bool close(Window& focused)
     if (auto* combo = dynamic_cast<Combobox*>(&focused); combo && combo->isDropDownListVisible())
     {
         combo->hideDropList();
+        return true;
+    }
+    if (auto* selector = dynamic_cast<WidgetDropDownListbox*>(&focused);
+        selector && selector->getDropList()->isVisible())
+    {
+        selector->HideDropList();
         return true;
     }
     return false;
@@ -343,6 +355,8 @@ bool onKeyDown(const EventArgs& args)
     Window* focused = focusedWidget(context);
     const bool shift = (key.sysKeys & Shift) != 0;
     const bool control = (key.sysKeys & Control) != 0;
+    if (focused && isFocusable(*focused) && operateInside(*focused, key.scancode, shift, control))
+        return true;
     switch (key.scancode)
     {
     case Key::Tab:

@@ -3,13 +3,21 @@
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 #include "widgets/RadioButtonEx.h"
+#include "widgets/TreeView.h"
+#include "widgets/WidgetDropDownListbox.h"
 
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/FrameWindow.h>
+#include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
+#include <CEGUI/widgets/MultiColumnList.h>
 #include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/Scrollbar.h>
+#include <CEGUI/widgets/Slider.h>
+#include <CEGUI/widgets/Spinner.h>
+#include <CEGUI/widgets/TabControl.h>
 #include <CEGUI/widgets/ToggleButton.h>
 #include <gtest/gtest.h>
 
@@ -196,4 +204,131 @@ TEST_F(KeyboardNavigationTest, TheRingShowsAfterKeysOnlyAndOnlyOnWhatCanTakeTheF
     moxietest::click(60, 25);
     EXPECT_TRUE(ringOf(second).empty());
     EXPECT_FALSE(hasFocusRing(first));
+}
+
+TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTabs)
+{
+    // A list: the selection moves and stays in view, each move firing the list's event.
+    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 10, 10, 150, 100));
+    for (int i = 0; i < 30; ++i)
+        list.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
+    int changes = 0;
+    list.subscribeEvent(Listbox::EventSelectionChanged,
+                        [&changes](const EventArgs&) { return ++changes > 0; });
+    list.activate();
+    auto row = [&list]
+    { return list.getFirstSelectedItem() ? list.getItemIndex(list.getFirstSelectedItem()) : 99; };
+    press(Key::ArrowDown);
+    press(Key::ArrowDown);
+    EXPECT_EQ(row(), 1u);
+    press(Key::End);
+    EXPECT_EQ(row(), 29u);
+    EXPECT_GT(list.getVertScrollbar()->getScrollPosition(), 0);
+    press(Key::Home);
+    EXPECT_EQ(row(), 0u);
+    EXPECT_EQ(list.getVertScrollbar()->getScrollPosition(), 0);
+    press(Key::PageDown);
+    EXPECT_GT(row(), 2u);
+    EXPECT_EQ(changes, 5);
+
+    // A table selects whole rows.
+    auto& table = static_cast<MultiColumnList&>(
+        moxietest::place("MoxieLook/MultiColumnList", 200, 10, 200, 120));
+    table.addColumn("Name", 0, cegui_absdim(100));
+    for (uint r = 0; r < 5; ++r)
+        table.addRow(new ListboxTextItem("Row " + PropertyHelper<uint>::toString(r)), 0);
+    table.activate();
+    press(Key::ArrowDown);
+    press(Key::ArrowDown);
+    EXPECT_EQ(table.getItemRowIndex(table.getFirstSelectedItem()), 1u);
+
+    // A slider steps by its click step and pages by ten; a spinner steps.
+    auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 10, 150, 200, 30));
+    slider.setMaxValue(1.0f);
+    slider.setClickStep(0.1f);
+    slider.setCurrentValue(0.5f);
+    slider.activate();
+    press(Key::ArrowRight);
+    EXPECT_NEAR(slider.getCurrentValue(), 0.6f, 1e-5f);
+    press(Key::PageDown);
+    EXPECT_EQ(slider.getCurrentValue(), 0.0f);
+    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 250, 150, 100, 30));
+    spinner.activate();
+    press(Key::ArrowUp);
+    EXPECT_EQ(spinner.getCurrentValue(), spinner.getStepSize());
+
+    // Tabs: Ctrl+Tab from inside a page, and Left and Right on the tab row itself.
+    auto& tabs =
+        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 10, 200, 300, 150));
+    for (const char* title : {"One", "Two", "Three"})
+    {
+        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", title);
+        page->setText(title);
+        tabs.addTab(page);
+    }
+    Window* inside = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+    inside->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
+                    USize(cegui_absdim(80), cegui_absdim(24)));
+    tabs.getTabContentsAtIndex(0)->addChild(inside);
+    inside->activate();
+    press(Key::Tab, false, true);
+    EXPECT_EQ(tabs.getSelectedTabIndex(), 1u);
+    press(Key::Tab, true, true);
+    EXPECT_EQ(tabs.getSelectedTabIndex(), 0u);
+    tabs.activate();
+    press(Key::ArrowLeft);
+    EXPECT_EQ(tabs.getSelectedTabIndex(), 2u);
+
+    // A drop-down selector chooses with the arrows, opens with Space, closes with Escape.
+    auto& selector = static_cast<WidgetDropDownListbox&>(
+        moxietest::place("MoxieLook/WidgetDropDownListbox", 420, 10, 150, 30));
+    for (const char* text : {"Red", "Green", "Blue"})
+        selector.AddItem(text, text, "", "", "");
+    int chosen = 0;
+    selector.subscribeEvent(WidgetDropDownListbox::EventSelectionChanged,
+                            [&chosen](const EventArgs&) { return ++chosen > 0; });
+    selector.activate();
+    press(Key::ArrowDown);
+    press(Key::ArrowDown);
+    EXPECT_EQ(selector.GetSelectedIndex(), 1);
+    EXPECT_EQ(chosen, 2);
+    press(Key::Space);
+    EXPECT_TRUE(selector.getDropList()->isVisible());
+    press(Key::Escape);
+    EXPECT_FALSE(selector.getDropList()->isVisible());
+}
+
+TEST_F(KeyboardNavigationTest, TheTreeWalksItsLinesOpensAndClosesTitles)
+{
+    auto& tree = static_cast<TreeView&>(moxietest::place("MoxieLook/TreeView", 10, 10, 300, 200));
+    TreeView::Node* a = tree.GetRootNode()->Add("A", "Title A", nullptr);
+    TreeView::Node* a1 = a->Add("a1", "Leaf a1", nullptr);
+    TreeView::Node* b = tree.GetRootNode()->Add("B", "Title B", nullptr);
+    b->Add("b1", "Leaf b1", nullptr);
+    std::vector<TreeView::Node*> clicked;
+    for (const String* event : {&TreeView::EventLeafItemClicked, &TreeView::EventTitleItemClicked})
+        tree.subscribeEvent(*event,
+                            [&clicked](const EventArgs& e)
+                            {
+                                clicked.push_back(
+                                    static_cast<const TreeView::ItemEventArgs&>(e).node);
+                                return true;
+                            });
+    drawnBy(tree);
+    tree.activate();
+    press(Key::ArrowDown); // the first line
+    press(Key::ArrowDown);
+    EXPECT_EQ(clicked, (std::vector<TreeView::Node*>{a, a1}));
+    press(Key::ArrowLeft); // a leaf: to its title
+    EXPECT_EQ(tree.GetSelectedNode(), a);
+    press(Key::ArrowLeft); // an open title: closes
+    EXPECT_FALSE(a->IsOpened());
+    drawnBy(tree);
+    press(Key::ArrowDown); // a's leaf is hidden now: b
+    EXPECT_EQ(tree.GetSelectedNode(), b);
+    press(Key::ArrowUp);
+    press(Key::ArrowRight);
+    EXPECT_TRUE(a->IsOpened());
+    press(Key::End);
+    EXPECT_EQ(tree.GetSelectedNode()->GetName(), "b1");
 }

@@ -241,6 +241,10 @@ public:
 
     //! The node the mouse last moved over (may be null).
     Node* GetHoveredNode() const { return d_hoveredNode; }
+    //! The keyboard inside the tree: Up, Down, Page Up, Page Down, Home and End move the
+    //! selection along the lines (firing the click events) and keep it in view; Left closes
+    //! a title or goes to its parent, Right opens it. False for other keys.
+    bool moveByKey(Key::Scan key);
     //! Handler of the pane's scroll event.
     bool Update(const EventArgs& args);
 

@@ -137,5 +137,103 @@ void TreeView::onFontChanged(WindowEventArgs& e)
     nodesChanged(true);
 }
 
+namespace
+{
+// The lines a page holds, at the first line's height.
+std::size_t linesPerPage(float viewHeight, float lineHeight)
+{
+    return lineHeight > 0
+               ? std::max<std::size_t>(1, static_cast<std::size_t>(viewHeight / lineHeight))
+               : 1;
+}
+} // namespace
+
+bool TreeView::moveByKey(Key::Scan key)
+{
+    if (!d_layoutValid)
+        layOut();
+    if (!d_lines || d_lines->size() == 0)
+        return false;
+    // The selected node with a line, the last one selected when several are.
+    Node* selected = nullptr;
+    for (auto it = d_selectedNodes.rbegin(); it != d_selectedNodes.rend() && !selected; ++it)
+        if ((*it)->d_selected && (*it)->d_hitRelative && (*it)->d_chunk)
+            selected = *it;
+    LineIndex::Position at = d_lines->end();
+    if (selected)
+        at = d_lines->find(*selected->d_chunk, selected->d_hitRect.top() - 3.0f);
+
+    const Rectf view = getInnerRectClipper();
+    const std::size_t page = linesPerPage(view.getHeight(), d_lines->at(d_lines->begin()).height);
+    auto step = [this](LineIndex::Position from, std::size_t count, bool down)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            const LineIndex::Position to = down ? d_lines->next(from) : d_lines->previous(from);
+            if (d_lines->isEnd(to))
+                break;
+            from = to;
+        }
+        return from;
+    };
+    LineIndex::Position to = at;
+    switch (key)
+    {
+    case Key::ArrowUp:
+        to = d_lines->isEnd(at) ? d_lines->begin() : step(at, 1, false);
+        break;
+    case Key::ArrowDown:
+        to = d_lines->isEnd(at) ? d_lines->begin() : step(at, 1, true);
+        break;
+    case Key::PageUp:
+        to = d_lines->isEnd(at) ? d_lines->begin() : step(at, page, false);
+        break;
+    case Key::PageDown:
+        to = d_lines->isEnd(at) ? d_lines->begin() : step(at, page, true);
+        break;
+    case Key::Home:
+        to = d_lines->begin();
+        break;
+    case Key::End:
+        to = d_lines->last();
+        break;
+    case Key::ArrowLeft:
+    case Key::ArrowRight:
+    {
+        if (!selected)
+            return false;
+        const bool open = key == Key::ArrowRight;
+        if (!selected->IsLeaf() && selected->IsOpened() != open)
+        {
+            selected->SetOpened(open);
+            fireItemEvent(EventTitleOpenStateChanged, selected);
+            invalidate();
+            return true;
+        }
+        if (open || !selected->d_parent || !selected->d_parent->d_parent)
+            return true; // nothing further that way
+        SetSelectionByNode(selected->d_parent);
+        return true;
+    }
+    default:
+        return false;
+    }
+    Node* node = d_lines->at(to).node;
+    if (node != selected)
+        SetSelectionByNode(node);
+    // Kept in view: the pane scrolls by fractions of the content's height.
+    const Sizef content = contentSize();
+    const double top = d_lines->topOf(to);
+    const double bottom = top + d_lines->at(to).height;
+    const double shownTop = d_pane->getVerticalScrollPosition() * content.d_height;
+    const double shownBottom = shownTop + view.getHeight();
+    if (content.d_height > 0 && (top < shownTop || bottom > shownBottom))
+    {
+        const double wanted = top < shownTop ? top : bottom - view.getHeight();
+        d_pane->setVerticalScrollPosition(static_cast<float>(wanted / content.d_height));
+    }
+    return true;
+}
+
 } // namespace MoxieLook
 } // namespace CEGUI

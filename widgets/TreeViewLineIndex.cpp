@@ -27,6 +27,24 @@ TreeView::LineIndex::Position TreeView::LineIndex::next(Position at) const
     return at;
 }
 
+TreeView::LineIndex::Position TreeView::LineIndex::previous(Position at) const
+{
+    if (isEnd(at))
+        return last();
+    if (at.line > 0)
+        return Position{at.chunk, at.line - 1};
+    if (at.chunk == 0)
+        return at;
+    return Position{at.chunk - 1, d_chunks[at.chunk - 1]->lines.size() - 1};
+}
+
+TreeView::LineIndex::Position TreeView::LineIndex::last() const
+{
+    if (d_chunks.empty())
+        return end();
+    return Position{d_chunks.size() - 1, d_chunks.back()->lines.size() - 1};
+}
+
 double TreeView::LineIndex::topOf(Position at) const
 {
     const LineChunk& chunk = *d_chunks[at.chunk];

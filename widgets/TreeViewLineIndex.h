@@ -41,6 +41,10 @@ public:
     Position end() const;
     bool isEnd(Position at) const { return at.chunk >= d_chunks.size(); }
     Position next(Position at) const;
+    //! The line before `at`; `at` itself at the first.
+    Position previous(Position at) const;
+    //! The last line; the end when there is none.
+    Position last() const;
     const Line& at(Position at) const { return d_chunks[at.chunk]->lines[at.line]; }
     //! The line's top in content pixels.
     double topOf(Position at) const;

@@ -126,12 +126,20 @@ bool WidgetDropDownListbox::OnListClicked(const EventArgs& args)
         setTooltipText("");
         return true;
     }
-    d_selected = static_cast<std::int8_t>(static_cast<std::uint8_t>(item->index & 0xFFu));
-    setTooltipText(item->tooltip);
-    WindowEventArgs changed(this);
-    fireEvent(EventSelectionChanged, changed, "");
+    ChooseItem(item->index);
     HideDropList();
     return true;
+}
+
+void WidgetDropDownListbox::ChooseItem(unsigned index)
+{
+    if (index >= d_list->GetItemCount())
+        return;
+    d_selected = static_cast<std::int8_t>(static_cast<std::uint8_t>(index & 0xFFu));
+    setTooltipText(d_list->GetItem(index).tooltip);
+    invalidate();
+    WindowEventArgs changed(this);
+    fireEvent(EventSelectionChanged, changed, "");
 }
 
 Rectf WidgetDropDownListbox::contentArea() const

@@ -45,6 +45,9 @@ public:
 
     void ShowDropList();
     void HideDropList();
+    //! What a click on an item of the open list does, bar closing it: selects the item, takes
+    //! its tooltip, fires "SelectedWidgetChanged". For keys.
+    void ChooseItem(unsigned index);
     //! Where the content (the selected item) is drawn, window-local.
     Rectf contentArea() const;
 

@@ -1,0 +1,188 @@
+#include "module/WidgetKeys.h"
+
+#include "widgets/TreeView.h"
+#include "widgets/WidgetDropDownListbox.h"
+
+#include <CEGUI/widgets/Combobox.h>
+#include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/Listbox.h>
+#include <CEGUI/widgets/ListboxItem.h>
+#include <CEGUI/widgets/MultiColumnList.h>
+#include <CEGUI/widgets/Slider.h>
+#include <CEGUI/widgets/Spinner.h>
+#include <CEGUI/widgets/TabControl.h>
+#include <algorithm>
+#include <functional>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+constexpr std::size_t PageLines = 10; //!< when a list cannot tell its own page
+constexpr float PageSteps = 10.0f;
+
+// Where a row selection moves for a key, in rows 0 to count - 1; false for other keys.
+bool rowFor(Key::Scan key, std::size_t count, std::size_t page, long current, std::size_t& row)
+{
+    if (count == 0)
+        return false;
+    const long last = static_cast<long>(count) - 1;
+    long to = current;
+    switch (key)
+    {
+    case Key::ArrowUp:
+        to = current < 0 ? 0 : current - 1;
+        break;
+    case Key::ArrowDown:
+        to = current < 0 ? 0 : current + 1;
+        break;
+    case Key::PageUp:
+        to = current - static_cast<long>(page);
+        break;
+    case Key::PageDown:
+        to = current < 0 ? 0 : current + static_cast<long>(page);
+        break;
+    case Key::Home:
+        to = 0;
+        break;
+    case Key::End:
+        to = last;
+        break;
+    default:
+        return false;
+    }
+    row = static_cast<std::size_t>(std::clamp(to, 0L, last));
+    return true;
+}
+
+std::size_t pageOf(const Listbox& list)
+{
+    const ListboxItem* first = list.getItemCount() ? list.getListboxItemFromIndex(0) : nullptr;
+    const float height = first ? first->getPixelSize().d_height : 0.0f;
+    const float view = list.getListRenderArea().getHeight();
+    return height > 0 ? std::max<std::size_t>(1, static_cast<std::size_t>(view / height))
+                      : PageLines;
+}
+
+bool listKey(Listbox& list, Key::Scan key)
+{
+    const ListboxItem* selected = list.getFirstSelectedItem();
+    const long current = selected ? static_cast<long>(list.getItemIndex(selected)) : -1;
+    std::size_t row = 0;
+    if (!rowFor(key, list.getItemCount(), pageOf(list), current, row))
+        return false;
+    if (static_cast<long>(row) != current)
+    {
+        // A single-selection list clears the old one itself, with one event as a click.
+        if (list.isMultiselectEnabled())
+            list.clearAllSelections();
+        list.setItemSelectState(row, true);
+    }
+    list.ensureItemIsVisible(row);
+    return true;
+}
+
+bool tableKey(MultiColumnList& table, Key::Scan key)
+{
+    const ListboxItem* selected = table.getFirstSelectedItem();
+    const long current = selected ? static_cast<long>(table.getItemRowIndex(selected)) : -1;
+    std::size_t row = 0;
+    if (table.getColumnCount() == 0 || !rowFor(key, table.getRowCount(), PageLines, current, row))
+        return false;
+    if (static_cast<long>(row) != current)
+    {
+        if (table.getSelectionMode() == MultiColumnList::RowMultiple ||
+            table.getSelectionMode() == MultiColumnList::CellMultiple)
+            table.clearAllSelections();
+        table.setItemSelectState(MCLGridRef(static_cast<uint>(row), 0), true);
+    }
+    table.ensureRowIsVisible(static_cast<uint>(row));
+    return true;
+}
+
+bool stepKey(Key::Scan key, float step, const std::function<void(float)>& by)
+{
+    switch (key)
+    {
+    case Key::ArrowUp:
+    case Key::ArrowRight:
+        by(step);
+        return true;
+    case Key::ArrowDown:
+    case Key::ArrowLeft:
+        by(-step);
+        return true;
+    case Key::PageUp:
+        by(step * PageSteps);
+        return true;
+    case Key::PageDown:
+        by(-step * PageSteps);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool switchTab(TabControl& tabs, bool back)
+{
+    const std::size_t count = tabs.getTabCount();
+    if (count < 2)
+        return false;
+    const std::size_t at = tabs.getSelectedTabIndex();
+    tabs.setSelectedTabAtIndex(back ? (at + count - 1) % count : (at + 1) % count);
+    return true;
+}
+
+bool chooseKey(WidgetDropDownListbox& box, Key::Scan key)
+{
+    const long current = box.GetSelectedIndex();
+    std::size_t row = 0;
+    if (!rowFor(key, box.GetItemCount(), PageLines, current, row))
+        return false;
+    if (static_cast<long>(row) != current)
+        box.ChooseItem(static_cast<unsigned>(row));
+    return true;
+}
+} // namespace
+
+bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
+{
+    // Ctrl+Tab switches the tabs of the tab control the focus is in.
+    if (key == Key::Tab && control)
+    {
+        for (Window* w = &focused; w; w = w->getParent())
+            if (auto* tabs = dynamic_cast<TabControl*>(w))
+                return switchTab(*tabs, shift);
+        return false;
+    }
+    if (auto* tabs = dynamic_cast<TabControl*>(&focused))
+        return (key == Key::ArrowLeft || key == Key::ArrowRight) &&
+               switchTab(*tabs, key == Key::ArrowLeft);
+    if (auto* tree = dynamic_cast<TreeView*>(&focused))
+        return tree->moveByKey(key);
+    if (auto* table = dynamic_cast<MultiColumnList*>(&focused))
+        return tableKey(*table, key);
+    if (auto* list = dynamic_cast<Listbox*>(&focused))
+        return listKey(*list, key);
+    if (auto* box = dynamic_cast<WidgetDropDownListbox*>(&focused))
+        return chooseKey(*box, key);
+    if (auto* slider = dynamic_cast<Slider*>(&focused))
+        return stepKey(key, slider->getClickStep(),
+                       [slider](float by)
+                       { slider->setCurrentValue(slider->getCurrentValue() + by); });
+    if (auto* spinner = dynamic_cast<Spinner*>(&focused))
+    {
+        // Its edit box keeps the caret keys.
+        if (key == Key::ArrowLeft || key == Key::ArrowRight)
+            return false;
+        return stepKey(key, static_cast<float>(spinner->getStepSize()),
+                       [spinner](float by)
+                       { spinner->setCurrentValue(spinner->getCurrentValue() + by); });
+    }
+    return false;
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
