@@ -9,10 +9,12 @@
 //
 // Without a display it runs itself again under xvfb-run and takes the screenshots.
 #include "GalleryPage.h"
+#include "KeyboardTour.h"
 #include "Label.h"
 #include "LayoutViewer.h"
 #include "Png.h"
 #include "ShownHovered.h"
+#include "module/KeyboardNavigation.h"
 #include "module/Soundification.h"
 
 #include <CEGUI/CEGUI.h>
@@ -228,6 +230,40 @@ void photographAnimation(const gallery::GalleryPage::CardInfo& card, const Rectf
     }
 }
 
+// A few cards with the keyboard's focus ring on their first widget: "FocusRing-<Type>.png".
+std::size_t photographFocusRings(gallery::GalleryPage& page, const std::string& dir)
+{
+    std::size_t written = 0;
+    for (const gallery::GalleryPage::CardInfo& card : page.cards())
+    {
+        const String& type = card.type;
+        if (type != "MoxieLook/Button" && type != "MoxieLook/Checkbox" &&
+            type != "MoxieLook/Editbox" && type != "MoxieLook/Listbox" &&
+            type != "MoxieLook/TreeView" && type != "MoxieLook/Slider")
+            continue;
+        const Rectf area = page.bringIntoView(card);
+        std::vector<Window*> pending{card.card};
+        Window* first = nullptr;
+        while (!pending.empty() && !first)
+        {
+            Window* w = pending.front();
+            pending.erase(pending.begin());
+            if (w != card.card && MoxieLook::isFocusable(*w) && w->getType() == type)
+                first = w;
+            for (std::size_t i = 0; i < w->getChildCount(); ++i)
+                pending.push_back(w->getChildAtIdx(i));
+        }
+        if (!first || !MoxieLook::focusWidget(*first))
+            continue;
+        gui().injectMousePosition(WindowWidth - 2, WindowHeight - 2);
+        for (int frame = 0; frame < 3; ++frame)
+            renderFrame(1.0f / 60);
+        gallery::writePng(dir + "/FocusRing-" + fileNameFor(type), readBack(area));
+        ++written;
+    }
+    return written;
+}
+
 int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::string& dir)
 {
     std::filesystem::create_directories(dir);
@@ -278,7 +314,14 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
         bottoms[column] += shot.height + 16;
     }
     gallery::writePng(dir + "/gallery.png", whole);
-    std::cout << "moxie-gallery: wrote " << shots.size() + 1 << " pictures to " << dir << "\n";
+    const std::size_t rings = photographFocusRings(page, dir);
+    std::cout << "moxie-gallery: wrote " << shots.size() + 1 + rings << " pictures to " << dir
+              << "\n";
+
+    // Then the whole page by keys alone.
+    const gallery::TourResult tour = gallery::tourByKeys();
+    std::cout << "moxie-gallery: keys reached " << tour.reached << " of " << tour.focusable
+              << " widgets and were taken " << tour.operated << " times\n";
     return 0;
 }
 // The layout on screen until the window closes, or, with --screenshot, one picture of it.

@@ -440,6 +440,11 @@ Window* focusedWidget(const GUIContext& context)
     return active == root ? nullptr : active;
 }
 
+bool focusWidget(Window& window)
+{
+    return isFocusable(window) && moveFocus(window.getGUIContext(), &window);
+}
+
 bool hasFocusRing(const Window& window)
 {
     const auto found = states().find(&window.getGUIContext());

@@ -26,6 +26,10 @@ Window* focusedWidget(const GUIContext& context);
 //! Whether the focus ring is shown on `window` now.
 bool hasFocusRing(const Window& window);
 
+//! Moves the focus to `window` as Tab would, ring and all (a dialog's first field, say).
+//! False, and nothing changes, when it is not focusable.
+bool focusWidget(Window& window);
+
 //! Subscribes to the running CEGUI's events; called as the module's types are added.
 void attachKeyboardNavigation();
 

@@ -8,6 +8,7 @@
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxItem.h>
 #include <CEGUI/widgets/MultiColumnList.h>
+#include <CEGUI/widgets/MultiLineEditbox.h>
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
@@ -149,8 +150,9 @@ bool chooseKey(WidgetDropDownListbox& box, Key::Scan key)
 
 bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
 {
-    // Ctrl+Tab switches the tabs of the tab control the focus is in.
-    if (key == Key::Tab && control)
+    // Ctrl+Tab switches the tabs of the tab control the focus is in (in a multi-line box it
+    // leaves the box instead).
+    if (key == Key::Tab && control && !dynamic_cast<MultiLineEditbox*>(&focused))
     {
         for (Window* w = &focused; w; w = w->getParent())
             if (auto* tabs = dynamic_cast<TabControl*>(w))

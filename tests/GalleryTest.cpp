@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <gtest/gtest.h>
 #include <memory>
 #include <png.h>
@@ -136,4 +137,24 @@ TEST_F(GalleryTest, CeguiLoggedNoError)
         EXPECT_EQ(line.find("Exception"), std::string::npos) << line;
     }
     EXPECT_GT(lines, 10);
+}
+
+TEST_F(GalleryTest, KeysAloneReachAndOperateEveryWidgetOnThePage)
+{
+    // The gallery tabs through its whole page after its pictures (each frame window a round
+    // of its own), operating each widget with Space, Down and Escape.
+    const std::string marker = "keys reached ";
+    const auto at = s_output.find(marker);
+    ASSERT_NE(at, std::string::npos) << s_output;
+    std::istringstream line(s_output.substr(at + marker.size()));
+    std::size_t reached = 0, focusable = 0, taken = 0;
+    std::string of, widgets, andWord, were, takenWord;
+    line >> reached >> of >> focusable >> widgets >> andWord >> were >> takenWord >> taken;
+    EXPECT_GT(focusable, 100u);
+    EXPECT_EQ(reached, focusable);
+    EXPECT_GT(taken, focusable);
+    // And the focus ring, photographed on a few cards.
+    for (const char* type : {"Button", "Checkbox", "Editbox", "Listbox", "Slider", "TreeView"})
+        EXPECT_TRUE(fs::exists(s_dir / "shots" / (std::string("FocusRing-") + type + ".png")))
+            << type;
 }

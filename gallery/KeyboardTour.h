@@ -1,0 +1,20 @@
+// The gallery by keys alone: every widget that takes the focus reached by Tab (each frame
+// window its own round), operated with Space, Return and the arrows, drop lists closed with
+// Escape.
+#pragma once
+
+#include <cstddef>
+
+namespace gallery
+{
+struct TourResult
+{
+    std::size_t focusable = 0; //!< widgets on the page that take the focus
+    std::size_t reached = 0;   //!< of those, reached by Tab
+    std::size_t operated = 0;  //!< keys that a reached widget took
+};
+
+//! Tours the default GUI context's sheet.
+TourResult tourByKeys();
+
+} // namespace gallery
