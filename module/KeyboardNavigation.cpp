@@ -18,9 +18,11 @@
 #include <CEGUI/widgets/FrameWindow.h>
 #include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/Listbox.h>
+#include <CEGUI/widgets/MenuItem.h>
 #include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/MultiColumnList.h>
 #include <CEGUI/widgets/MultiLineEditbox.h>
+#include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/RadioButton.h>
 #include <CEGUI/widgets/Slider.h>
@@ -329,6 +331,19 @@ bool close(Window& focused)
     return false;
 }
 
+// An open pop-up of a menu bar takes the focus as it opens: its keys are the bar's.
+Window* menuBarAbove(Window* focused)
+{
+    for (Window* w = focused; w; w = w->getParent())
+    {
+        if (dynamic_cast<Menubar*>(w))
+            return w;
+        if (!dynamic_cast<PopupMenu*>(w) && !dynamic_cast<MenuItem*>(w))
+            break;
+    }
+    return focused;
+}
+
 // A box one types into keeps Space (and, unless read-only, its own keys).
 bool typesInto(const Window& target)
 {
@@ -352,7 +367,7 @@ bool onKeyDown(const EventArgs& args)
         target = modal;
     if (window != target || !stateOf(context).enabled)
         return false;
-    Window* focused = focusedWidget(context);
+    Window* focused = menuBarAbove(focusedWidget(context));
     const bool shift = (key.sysKeys & Shift) != 0;
     const bool control = (key.sysKeys & Control) != 0;
     if (focused && isFocusable(*focused) && operateInside(*focused, key.scancode, shift, control))

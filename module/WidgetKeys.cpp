@@ -7,13 +7,17 @@
 #include <CEGUI/widgets/Editbox.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxItem.h>
+#include <CEGUI/widgets/MenuItem.h>
+#include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/MultiColumnList.h>
 #include <CEGUI/widgets/MultiLineEditbox.h>
+#include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
 #include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace CEGUI
 {
@@ -136,6 +140,158 @@ bool switchTab(TabControl& tabs, bool back)
     return true;
 }
 
+// A menu item's hover flag is what marks it under the pointer; keys mark it the same way.
+struct MenuItemAccess : MenuItem
+{
+    static void mark(MenuItem& item, bool on)
+    {
+        item.*(&MenuItemAccess::d_hovering) = on;
+        item.invalidate();
+    }
+    static void click(MenuItem& item)
+    {
+        WindowEventArgs args(&item);
+        (item.*(&MenuItemAccess::onClicked))(args);
+    }
+};
+
+std::vector<MenuItem*> itemsOf(const MenuBase& menu)
+{
+    std::vector<MenuItem*> items;
+    for (std::size_t i = 0; i < menu.getItemCount(); ++i)
+        if (auto* item = dynamic_cast<MenuItem*>(menu.getItemFromIndex(i)))
+            if (!item->isDisabled())
+                items.push_back(item);
+    return items;
+}
+
+MenuItem* markedIn(const MenuBase& menu)
+{
+    for (MenuItem* item : itemsOf(menu))
+        if (item->isHovering())
+            return item;
+    return nullptr;
+}
+
+void markOnly(const MenuBase& menu, MenuItem* marked)
+{
+    for (MenuItem* item : itemsOf(menu))
+        if (item->isHovering() != (item == marked))
+            MenuItemAccess::mark(*item, item == marked);
+}
+
+// The neighbour of `from` in `menu` (wrapping), or its first item.
+MenuItem* neighbour(const MenuBase& menu, const MenuItem* from, int by)
+{
+    const std::vector<MenuItem*> items = itemsOf(menu);
+    if (items.empty())
+        return nullptr;
+    const auto at = std::find(items.begin(), items.end(), from);
+    if (at == items.end())
+        return by < 0 ? items.back() : items.front();
+    const long n = static_cast<long>(items.size());
+    return items[static_cast<std::size_t>(((at - items.begin()) + by + n) % n)];
+}
+
+MenuItem* openIn(const MenuBase& menu)
+{
+    for (MenuItem* item : itemsOf(menu))
+        if (item->isOpened() && item->getPopupMenu())
+            return item;
+    return nullptr;
+}
+
+void openWithFirstMarked(MenuItem& item)
+{
+    item.openPopupMenu();
+    if (PopupMenu* popup = item.getPopupMenu())
+        markOnly(*popup, neighbour(*popup, nullptr, 1));
+}
+
+// Along the bar, down the pop-ups: Left and Right between the bar's items (opening the one
+// reached when one was open), Down and Up in the open pop-up, Right into a sub-menu, Left
+// out of it, Return or Space to click, Escape to close.
+bool menuKey(Menubar& bar, Key::Scan key)
+{
+    // The open pop-ups, from the bar down, and the items that opened them.
+    std::vector<MenuBase*> open{&bar};
+    std::vector<MenuItem*> openers;
+    while (MenuItem* item = openIn(*open.back()))
+    {
+        openers.push_back(item);
+        open.push_back(item->getPopupMenu());
+    }
+    MenuBase& deepest = *open.back();
+    MenuItem* marked = markedIn(deepest);
+    MenuItem* onBar = openers.empty() ? markedIn(bar) : openers.front();
+    auto alongBar = [&](int by)
+    {
+        MenuItem* next = neighbour(bar, onBar, by);
+        if (!next)
+            return false;
+        const bool wasOpen = open.size() > 1;
+        if (onBar && wasOpen)
+            onBar->closePopupMenu();
+        markOnly(bar, next);
+        if (wasOpen)
+            openWithFirstMarked(*next);
+        return true;
+    };
+    switch (key)
+    {
+    case Key::ArrowLeft:
+        if (open.size() > 2)
+        {
+            openers.back()->closePopupMenu();
+            return true;
+        }
+        return alongBar(-1);
+    case Key::ArrowRight:
+        if (open.size() > 1 && marked && marked->getPopupMenu())
+        {
+            openWithFirstMarked(*marked);
+            return true;
+        }
+        return alongBar(1);
+    case Key::ArrowDown:
+    case Key::ArrowUp:
+        if (open.size() == 1)
+        {
+            MenuItem* item = onBar ? onBar : neighbour(bar, nullptr, 1);
+            if (item)
+                openWithFirstMarked(*item);
+            return item != nullptr;
+        }
+        markOnly(deepest, neighbour(deepest, marked, key == Key::ArrowDown ? 1 : -1));
+        return true;
+    case Key::Return:
+    case Key::NumpadEnter:
+    case Key::Space:
+    {
+        MenuItem* item = open.size() > 1 ? marked : (onBar ? onBar : neighbour(bar, nullptr, 1));
+        if (!item)
+            return false;
+        if (item->getPopupMenu())
+            openWithFirstMarked(*item);
+        else
+        {
+            MenuItemAccess::click(*item);
+            // A click closes the menus; CEGUI's own closing misses pop-ups opened by keys.
+            if (!openers.empty() && openers.front()->isOpened())
+                openers.front()->closePopupMenu();
+        }
+        return true;
+    }
+    case Key::Escape:
+        if (open.size() < 2)
+            return false;
+        open[open.size() - 2]->getPopupMenuItem()->closePopupMenu();
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool chooseKey(WidgetDropDownListbox& box, Key::Scan key)
 {
     const long current = box.GetSelectedIndex();
@@ -164,6 +320,8 @@ bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
                switchTab(*tabs, key == Key::ArrowLeft);
     if (auto* tree = dynamic_cast<TreeView*>(&focused))
         return tree->moveByKey(key);
+    if (auto* bar = dynamic_cast<Menubar*>(&focused))
+        return menuKey(*bar, key);
     if (auto* table = dynamic_cast<MultiColumnList*>(&focused))
         return tableKey(*table, key);
     if (auto* list = dynamic_cast<Listbox*>(&focused))

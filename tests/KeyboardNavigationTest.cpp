@@ -12,6 +12,8 @@
 #include <CEGUI/widgets/FrameWindow.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
+#include <CEGUI/widgets/MenuItem.h>
+#include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/MultiColumnList.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/Scrollbar.h>
@@ -331,4 +333,59 @@ TEST_F(KeyboardNavigationTest, TheTreeWalksItsLinesOpensAndClosesTitles)
     EXPECT_TRUE(a->IsOpened());
     press(Key::End);
     EXPECT_EQ(tree.GetSelectedNode()->GetName(), "b1");
+}
+
+TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
+{
+    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 26));
+    auto item = [](Window& parent, const char* text)
+    {
+        auto* made = static_cast<MenuItem*>(
+            WindowManager::getSingleton().createWindow("MoxieLook/MenuItem"));
+        made->setText(text);
+        static_cast<ItemListBase&>(parent).addItem(made);
+        return made;
+    };
+    auto popupOf = [](MenuItem& owner)
+    {
+        Window* popup = WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu");
+        owner.addChild(popup);
+        return popup;
+    };
+    MenuItem* file = item(bar, "File");
+    Window* fileMenu = popupOf(*file);
+    MenuItem* open = item(*fileMenu, "Open");
+    MenuItem* recent = item(*fileMenu, "Recent");
+    MenuItem* older = item(*popupOf(*recent), "Older");
+    MenuItem* quit = item(*fileMenu, "Quit");
+    MenuItem* edit = item(bar, "Edit");
+    item(*popupOf(*edit), "Cut");
+    int quits = 0;
+    quit->subscribeEvent(MenuItem::EventClicked,
+                         [&quits](const EventArgs&) { return ++quits > 0; });
+
+    bar.activate();
+    press(Key::ArrowDown); // opens File, its first item marked
+    EXPECT_TRUE(file->isOpened());
+    EXPECT_TRUE(open->isHovering());
+    press(Key::ArrowDown);
+    EXPECT_TRUE(recent->isHovering());
+    EXPECT_FALSE(open->isHovering());
+    press(Key::ArrowRight); // into the sub-menu
+    EXPECT_TRUE(recent->isOpened());
+    EXPECT_TRUE(older->isHovering());
+    press(Key::ArrowLeft); // out of it
+    EXPECT_FALSE(recent->isOpened());
+    EXPECT_TRUE(file->isOpened());
+    press(Key::ArrowDown);
+    press(Key::Return); // Quit: clicked, and the menus close
+    EXPECT_EQ(quits, 1);
+    EXPECT_FALSE(file->isOpened());
+    // Along the bar with a menu open, the next one opens; Escape closes it.
+    press(Key::ArrowDown);
+    press(Key::ArrowRight);
+    EXPECT_FALSE(file->isOpened());
+    EXPECT_TRUE(edit->isOpened());
+    press(Key::Escape);
+    EXPECT_FALSE(edit->isOpened());
 }
