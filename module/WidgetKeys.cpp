@@ -5,6 +5,8 @@
 
 #include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/Editbox.h>
+#include <CEGUI/widgets/ItemEntry.h>
+#include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxItem.h>
 #include <CEGUI/widgets/MenuItem.h>
@@ -15,6 +17,8 @@
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
+#include <CEGUI/widgets/Tree.h>
+#include <CEGUI/widgets/TreeItem.h>
 #include <algorithm>
 #include <functional>
 #include <vector>
@@ -292,6 +296,93 @@ bool menuKey(Menubar& bar, Key::Scan key)
     }
 }
 
+// CEGUI's tree keeps its top items and its branch events to itself.
+struct TreeAccess : Tree
+{
+    static std::vector<TreeItem*>& items(Tree& tree) { return tree.*(&TreeAccess::d_listItems); }
+    static void branchToggled(Tree& tree, TreeItem& item)
+    {
+        TreeEventArgs args(&tree);
+        args.treeItem = &item;
+        if (item.getIsOpen())
+            (tree.*(&TreeAccess::onBranchOpened))(args);
+        else
+            (tree.*(&TreeAccess::onBranchClosed))(args);
+    }
+};
+
+// The tree's items as shown: each open branch's items after it; `parents` alongside.
+void shownItems(TreeItem::LBItemList& items, TreeItem* parent, std::vector<TreeItem*>& out,
+                std::vector<TreeItem*>& parents)
+{
+    for (TreeItem* item : items)
+    {
+        out.push_back(item);
+        parents.push_back(parent);
+        if (item->getIsOpen())
+            shownItems(item->getItemList(), item, out, parents);
+    }
+}
+
+bool ceguiTreeKey(Tree& tree, Key::Scan key)
+{
+    std::vector<TreeItem*> shown, parents;
+    shownItems(TreeAccess::items(tree), nullptr, shown, parents);
+    TreeItem* selected = tree.getFirstSelectedItem();
+    const auto at = std::find(shown.begin(), shown.end(), selected);
+    const long current = at == shown.end() ? -1 : static_cast<long>(at - shown.begin());
+    TreeItem* to = nullptr;
+    if (key == Key::ArrowLeft || key == Key::ArrowRight)
+    {
+        if (current < 0)
+            return false;
+        const bool open = key == Key::ArrowRight;
+        if (selected->getItemCount() > 0 && selected->getIsOpen() != open)
+        {
+            selected->toggleIsOpen();
+            TreeAccess::branchToggled(tree, *selected);
+            tree.invalidate();
+            return true;
+        }
+        to = open ? nullptr : parents[static_cast<std::size_t>(current)];
+        if (!to)
+            return true;
+    }
+    else
+    {
+        std::size_t row = 0;
+        if (!rowFor(key, shown.size(), PageLines, current, row))
+            return false;
+        to = shown[row];
+    }
+    if (to != selected)
+    {
+        if (tree.isMultiselectEnabled())
+            tree.clearAllSelections();
+        tree.setItemSelectState(to, true);
+    }
+    tree.ensureItemIsVisible(to);
+    return true;
+}
+
+bool itemListKey(ItemListbox& list, Key::Scan key)
+{
+    const ItemEntry* selected = list.getFirstSelectedItem();
+    const long current = selected ? static_cast<long>(list.getItemIndex(selected)) : -1;
+    std::size_t row = 0;
+    if (!rowFor(key, list.getItemCount(), PageLines, current, row))
+        return false;
+    ItemEntry* to = list.getItemFromIndex(row);
+    if (static_cast<long>(row) != current)
+    {
+        if (list.isMultiSelectEnabled())
+            list.clearAllSelections();
+        list.notifyItemClicked(to); // as a click: one selection event
+    }
+    list.ensureItemIsVisibleVert(*to);
+    return true;
+}
+
 bool chooseKey(WidgetDropDownListbox& box, Key::Scan key)
 {
     const long current = box.GetSelectedIndex();
@@ -322,6 +413,10 @@ bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
         return tree->moveByKey(key);
     if (auto* bar = dynamic_cast<Menubar*>(&focused))
         return menuKey(*bar, key);
+    if (auto* ceguiTree = dynamic_cast<Tree*>(&focused))
+        return ceguiTreeKey(*ceguiTree, key);
+    if (auto* items = dynamic_cast<ItemListbox*>(&focused))
+        return itemListKey(*items, key);
     if (auto* table = dynamic_cast<MultiColumnList*>(&focused))
         return tableKey(*table, key);
     if (auto* list = dynamic_cast<Listbox*>(&focused))

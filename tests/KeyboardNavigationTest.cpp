@@ -10,6 +10,8 @@
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/FrameWindow.h>
+#include <CEGUI/widgets/ItemEntry.h>
+#include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/ListboxTextItem.h>
 #include <CEGUI/widgets/MenuItem.h>
@@ -21,6 +23,8 @@
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
 #include <CEGUI/widgets/ToggleButton.h>
+#include <CEGUI/widgets/Tree.h>
+#include <CEGUI/widgets/TreeItem.h>
 #include <gtest/gtest.h>
 
 using namespace CEGUI;
@@ -388,4 +392,53 @@ TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
     EXPECT_TRUE(edit->isOpened());
     press(Key::Escape);
     EXPECT_FALSE(edit->isOpened());
+}
+
+TEST_F(KeyboardNavigationTest, CeguisTreeAndTheItemListWalkTheirItems)
+{
+    auto& tree = static_cast<Tree&>(moxietest::place("MoxieLook/Tree", 10, 10, 240, 140));
+    auto* fruit = new TreeItem("Fruit");
+    tree.addItem(fruit);
+    auto* apples = new TreeItem("Apples");
+    fruit->addItem(apples);
+    auto* bread = new TreeItem("Bread");
+    tree.addItem(bread);
+    int opened = 0, closed = 0, selections = 0;
+    tree.subscribeEvent(Tree::EventBranchOpened, [&opened] { ++opened; });
+    tree.subscribeEvent(Tree::EventBranchClosed, [&closed] { ++closed; });
+    tree.subscribeEvent(Tree::EventSelectionChanged, [&selections] { ++selections; });
+    tree.activate();
+    press(Key::ArrowDown);
+    EXPECT_EQ(tree.getFirstSelectedItem(), fruit);
+    press(Key::ArrowDown); // closed: Bread comes next
+    EXPECT_EQ(tree.getFirstSelectedItem(), bread);
+    press(Key::ArrowUp);
+    press(Key::ArrowRight); // opens Fruit
+    EXPECT_TRUE(fruit->getIsOpen());
+    press(Key::ArrowDown);
+    EXPECT_EQ(tree.getFirstSelectedItem(), apples);
+    press(Key::ArrowLeft); // a leaf: to its branch
+    press(Key::ArrowLeft); // an open branch: closes
+    EXPECT_FALSE(fruit->getIsOpen());
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(closed, 1);
+    EXPECT_EQ(selections, 5);
+
+    auto& list =
+        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 300, 10, 200, 110));
+    for (int i = 0; i < 12; ++i)
+    {
+        Window* item = WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem");
+        item->setText("Item " + PropertyHelper<int>::toString(i));
+        list.addItem(static_cast<ItemEntry*>(item));
+    }
+    int changes = 0;
+    list.subscribeEvent(ItemListbox::EventSelectionChanged, [&changes] { ++changes; });
+    list.activate();
+    press(Key::ArrowDown);
+    press(Key::End);
+    EXPECT_EQ(list.getItemIndex(list.getFirstSelectedItem()), 11u);
+    EXPECT_GT(list.getVertScrollbar()->getScrollPosition(), 0);
+    EXPECT_EQ(list.getSelectedCount(), 1u);
+    EXPECT_GE(changes, 2); // as a click: the old selection going, then the new one
 }
