@@ -317,6 +317,11 @@ bool operate(Window& focused)
 
 bool close(Window& focused)
 {
+    if (auto* button = dynamic_cast<ButtonEx*>(&focused); button && button->IsDragging())
+    {
+        button->CancelDrag();
+        return true;
+    }
     if (auto* combo = dynamic_cast<Combobox*>(&focused); combo && combo->isDropDownListVisible())
     {
         combo->hideDropList();
@@ -449,7 +454,10 @@ bool isFocusable(const Window& window)
 Window* focusedWidget(const GUIContext& context)
 {
     Window* root = context.getRootWindow();
-    Window* active = root ? root->getActiveChild() : nullptr;
+    Window* base = context.getModalWindow() ? context.getModalWindow() : root;
+    Window* active = base ? base->getActiveChild() : nullptr;
+    if (!active && base != root)
+        active = base; // the modal window itself takes the keys
     while (active && active->isAutoWindow() && active->getParent())
         active = active->getParent();
     return active == root ? nullptr : active;

@@ -2,6 +2,8 @@
 
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "widgets/ButtonEx.h"
+#include "widgets/DragEventArgs.h"
 #include "widgets/RadioButtonEx.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
@@ -441,4 +443,28 @@ TEST_F(KeyboardNavigationTest, CeguisTreeAndTheItemListWalkTheirItems)
     EXPECT_GT(list.getVertScrollbar()->getScrollPosition(), 0);
     EXPECT_EQ(list.getSelectedCount(), 1u);
     EXPECT_GE(changes, 2); // as a click: the old selection going, then the new one
+}
+
+TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
+{
+    auto& button = static_cast<ButtonEx&>(moxietest::place("MoxieLook/ButtonEx", 10, 10, 100, 30));
+    button.SetDragAuthorized(true);
+    int cancelled = 0, clicks = 0;
+    button.subscribeEvent(EventDropCancelled, [&cancelled] { ++cancelled; });
+    button.subscribeEvent(PushButton::EventClicked, [&clicks] { ++clicks; });
+    moxietest::pointerTo(20, 20);
+    moxietest::leftDown();
+    moxietest::pointerTo(40, 20);
+    moxietest::pointerTo(300, 200);
+    ASSERT_TRUE(button.IsDragging());
+    moxietest::sounds().clear();
+    press(Key::Escape);
+    EXPECT_FALSE(button.IsDragging());
+    EXPECT_EQ(cancelled, 1);
+    EXPECT_EQ(button.getUnclippedOuterRect().get().d_min, Vector2f(10, 10));
+    // The release that follows is no click.
+    moxietest::leftUp();
+    EXPECT_EQ(moxietest::sounds(), std::vector<std::string>{"meup"});
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(cancelled, 1);
 }

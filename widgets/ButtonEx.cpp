@@ -264,11 +264,30 @@ void ButtonEx::PlayClickSound()
     MXSoundification::GetInstance().PlaySound(this, d_clickSound);
 }
 
+void ButtonEx::CancelDrag()
+{
+    if (!d_dragging)
+        return;
+    setPosition(d_positionBeforeDrag);
+    setDragging(false);
+    d_mouseHeld = false;
+    d_dragCancelled = true;
+    DragEventArgs cancelled(this, nullptr);
+    fireEvent(EventDropCancelled, cancelled, "");
+    MXSoundification::GetInstance().PlaySound(this, d_cancelSound);
+    setEnabled(true);
+}
+
 bool ButtonEx::MouseUp(const EventArgs& args)
 {
     const auto& mouse = static_cast<const MouseEventArgs&>(args);
     d_mouseHeld = false;
     d_accumulatedMovement = 0;
+    if (d_dragCancelled)
+    {
+        d_dragCancelled = false;
+        return true;
+    }
     if (!d_dragging)
     {
         if (mouse.button == LeftButton)

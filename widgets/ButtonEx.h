@@ -98,6 +98,9 @@ public:
     void SetSourceDragInfo(const std::string& info) { d_sourceDragInfo = info; }
     //! The sound of a click, for a click made without the mouse (a key).
     void PlayClickSound();
+    //! Ends a drag in progress as a drop on no target does (back in place, "DropCancelled",
+    //! its sound); the release that follows clicks nothing. For Escape.
+    void CancelDrag();
     const std::string& GetSourceDragInfo() const { return d_sourceDragInfo; }
 
     //! The inner rectangle (inside the frame of the standard imagery, the whole window
@@ -149,6 +152,7 @@ private:
     bool d_dragging = false;
     Window* d_mutedParent = nullptr;
     bool d_mouseHeld = false;
+    bool d_dragCancelled = false; //!< until the button that dragged is released
     const Image* d_normalBackground = nullptr;
     const Image* d_hoverBackground = nullptr;
     const Image* d_pushedBackground = nullptr;
