@@ -17,14 +17,16 @@ GUIContext& gui()
     return System::getSingleton().getDefaultGUIContext();
 }
 
-void focusables(Window& parent, std::vector<Window*>& out)
+void focusables(Window& parent, std::vector<Window*>& out, std::size_t& frames, bool inFrame)
 {
     for (std::size_t i = 0; i < parent.getChildCount(); ++i)
     {
         Window& child = *parent.getChildAtIdx(i);
         if (MoxieLook::isFocusable(child))
             out.push_back(&child);
-        focusables(child, out);
+        const bool frame = !inFrame && dynamic_cast<FrameWindow*>(&child);
+        frames += frame;
+        focusables(child, out, frames, inFrame || frame);
     }
 }
 
@@ -47,7 +49,7 @@ TourResult tourByKeys()
     if (!sheet)
         return result;
     std::vector<Window*> all;
-    focusables(*sheet, all);
+    focusables(*sheet, all, result.frames, false);
     result.focusable = all.size();
     const std::set<Window*> onPage(all.begin(), all.end());
     std::set<Window*> reached;
@@ -56,6 +58,7 @@ TourResult tourByKeys()
         // A widget no round reached yet begins a round of its own (its frame window's).
         if (reached.count(start) || !MoxieLook::focusWidget(*start))
             continue;
+        ++result.rounds;
         for (int guard = 0; guard < 1000; ++guard)
         {
             Window* focused = MoxieLook::focusedWidget(gui());

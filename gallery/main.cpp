@@ -321,7 +321,8 @@ int takeScreenshots(GLFWwindow* window, gallery::GalleryPage& page, const std::s
     // Then the whole page by keys alone.
     const gallery::TourResult tour = gallery::tourByKeys();
     std::cout << "moxie-gallery: keys reached " << tour.reached << " of " << tour.focusable
-              << " widgets and were taken " << tour.operated << " times\n";
+              << " widgets and were taken " << tour.operated << " times, in " << tour.rounds
+              << " rounds for " << tour.frames << " frame windows\n";
     return 0;
 }
 // The layout on screen until the window closes, or, with --screenshot, one picture of it.

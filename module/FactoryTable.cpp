@@ -246,6 +246,7 @@ void addToCegui(const FactoryEntry& entry)
 
 void removeFromCegui(const FactoryEntry& entry)
 {
+    detachKeyboardNavigation();
     WindowFactoryManager& windows = WindowFactoryManager::getSingleton();
     windows.removeFactory(entry.typeName);
     if (!entry.renderer)

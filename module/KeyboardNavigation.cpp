@@ -4,6 +4,7 @@
 #include "module/WidgetKeys.h"
 #include "widgets/ButtonEx.h"
 #include "widgets/RadioButtonEx.h"
+#include "widgets/TaskbarButton.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
@@ -99,9 +100,11 @@ struct ContextState
 {
     bool enabled = true;
     bool ringShown = false;
-    Window* ringOwner = nullptr;
+    Window* ringWidget = nullptr; //!< the focused widget
+    Window* ringOwner = nullptr;  //!< the window the ring is drawn in: the widget's face
     Event::Connection drawn;
     Event::Connection gone;
+    Event::Connection left; //!< the widget losing the focus by other means: redraw without
 };
 
 std::map<const GUIContext*, ContextState>& states()
@@ -125,10 +128,19 @@ struct ClickAccess : PushButton
     }
 };
 
+// Where a widget shows its focus: a combo box and a spinner in their edit part (the combo
+// box's own area reaches over its closed list), other widgets in themselves.
+Window& faceOf(Window& widget)
+{
+    if (auto* combo = dynamic_cast<Combobox*>(&widget))
+        return *combo->getEditbox();
+    if (auto* spinner = dynamic_cast<Spinner*>(&widget))
+        return *spinner->getChild(Spinner::EditboxName);
+    return widget;
+}
+
 void drawRing(Window& window)
 {
-    if (!isFocusable(window))
-        return;
     const Sizef size = window.getPixelSize();
     if (size.d_width < 2 * RingWidth || size.d_height < 2 * RingWidth)
         return;
@@ -147,35 +159,49 @@ bool connected(const Event::Connection& connection)
     return connection.isValid() && connection->connected();
 }
 
-void setRing(ContextState& state, Window* owner, bool shown)
+void setRing(ContextState& state, Window* widget, bool shown)
 {
+    Window* owner = widget ? &faceOf(*widget) : nullptr;
     if (state.ringOwner && (state.ringOwner != owner || state.ringShown != shown))
         state.ringOwner->invalidate();
     if (owner != state.ringOwner)
     {
-        for (Event::Connection* c : {&state.drawn, &state.gone})
+        for (Event::Connection* c : {&state.drawn, &state.gone, &state.left})
             if (connected(*c))
                 (*c)->disconnect();
         if (owner)
         {
             ContextState* kept = &state;
-            state.drawn = owner->subscribeEvent(Window::EventRenderingEnded,
-                                                [owner, kept](const EventArgs&)
+            state.drawn = owner->subscribeEvent(
+                Window::EventRenderingEnded,
+                [owner, kept](const EventArgs&)
+                {
+                    // Only while the widget still has the focus and can take it.
+                    Window* focusedOne = kept->ringWidget;
+                    if (kept->ringShown && kept->ringOwner == owner && focusedOne &&
+                        isFocusable(*focusedOne) &&
+                        focusedWidget(focusedOne->getGUIContext()) == focusedOne)
+                        drawRing(*owner);
+                    return false;
+                });
+            state.left = widget->subscribeEvent(Window::EventDeactivated,
+                                                [owner](const EventArgs&)
                                                 {
-                                                    if (kept->ringShown && kept->ringOwner == owner)
-                                                        drawRing(*owner);
+                                                    owner->invalidate();
                                                     return false;
                                                 });
             state.gone = owner->subscribeEvent(Window::EventDestructionStarted,
                                                [kept](const EventArgs&)
                                                {
                                                    kept->ringOwner = nullptr;
+                                                   kept->ringWidget = nullptr;
                                                    kept->ringShown = false;
                                                    return false;
                                                });
         }
     }
     state.ringOwner = owner;
+    state.ringWidget = widget;
     state.ringShown = shown && owner;
     if (owner)
         owner->invalidate();
@@ -240,17 +266,34 @@ Window* nearestToward(const std::vector<Window*>& candidates, const Window& from
     return best;
 }
 
+// What CEGUI's Editbox does with Tab: the text is accepted as the focus leaves.
+struct EditboxAccess : Editbox
+{
+    static void accept(Editbox& box)
+    {
+        WindowEventArgs args(&box);
+        (box.*(&EditboxAccess::onTextAcceptedEvent))(args);
+    }
+};
+
 bool moveFocus(GUIContext& context, Window* target)
 {
     if (!target)
         return false;
     target->activate();
+    // Activating a window leaves its active children active: the keys would still go to
+    // them (a tab control reached from a widget on its page).
+    for (std::size_t i = 0; i < target->getChildCount(); ++i)
+        if (Window* child = target->getChildAtIdx(i); child->isActive())
+            child->deactivate();
     setRing(stateOf(context), target, true);
     return true;
 }
 
 bool tab(GUIContext& context, Window* focused, bool backwards)
 {
+    if (auto* box = dynamic_cast<Editbox*>(focused); box && !box->isReadOnly())
+        EditboxAccess::accept(*box);
     std::vector<Window*> order;
     if (Window* scope = scopeOf(context, focused))
     {
@@ -281,6 +324,13 @@ bool arrow(GUIContext& context, Window& focused, float dx, float dy)
 // What a click does, by keys: the same events and sounds.
 bool operate(Window& focused)
 {
+    if (auto* dragged = dynamic_cast<ButtonEx*>(&focused); dragged && dragged->IsDragging())
+        return true; // a drag in progress is no click
+    if (auto* taskbarButton = dynamic_cast<TaskbarButton*>(&focused))
+    {
+        taskbarButton->ClickByKey();
+        return true;
+    }
     if (auto* ours = dynamic_cast<RadioButtonEx*>(&focused))
         ours->setSelected(true);
     else if (auto* ownToggle = dynamic_cast<MoxieLook::ToggleButton*>(&focused))
@@ -297,12 +347,18 @@ bool operate(Window& focused)
     }
     else if (auto* combo = dynamic_cast<Combobox*>(&focused))
     {
+        // Open, the list takes Return itself (accepting the highlighted item).
+        if (combo->isDropDownListVisible())
+            return false;
         combo->showDropList();
         return true;
     }
     else if (auto* selector = dynamic_cast<WidgetDropDownListbox*>(&focused))
     {
-        selector->ShowDropList();
+        if (selector->getDropList()->isVisible())
+            selector->HideDropList(); // the arrows chose already
+        else
+            selector->ShowDropList();
         return true;
     }
     if (auto* button = dynamic_cast<PushButton*>(&focused))
@@ -375,7 +431,10 @@ bool onKeyDown(const EventArgs& args)
     Window* focused = menuBarAbove(focusedWidget(context));
     const bool shift = (key.sysKeys & Shift) != 0;
     const bool control = (key.sysKeys & Control) != 0;
-    if (focused && isFocusable(*focused) && operateInside(*focused, key.scancode, shift, control))
+    // A widget out of the Tab round keeps its own keys; Ctrl+Tab works from anywhere in a
+    // tab control.
+    if (focused && (takesKeys(*focused) || (key.scancode == Key::Tab && control)) &&
+        operateInside(*focused, key.scancode, shift, control))
         return true;
     switch (key.scancode)
     {
@@ -398,7 +457,10 @@ bool onKeyDown(const EventArgs& args)
         [[fallthrough]];
     case Key::Return:
     case Key::NumpadEnter:
-        return focused && isFocusable(*focused) && operate(*focused);
+        // An edit box (a combo box's too) takes Return as its own "accepted".
+        if (key.scancode != Key::Space && typesInto(*target))
+            return false;
+        return focused && takesKeys(*focused) && operate(*focused);
     case Key::Escape:
         return focused && close(*focused);
     default:
@@ -413,7 +475,7 @@ bool onMouseDown(const EventArgs& args)
         return false;
     ContextState& state = stateOf(mouse.window->getGUIContext());
     if (state.ringShown)
-        setRing(state, state.ringOwner, false); // a click hides the ring, as in browsers
+        setRing(state, state.ringWidget, false); // a click hides the ring, as in browsers
     return false;
 }
 
@@ -442,13 +504,17 @@ bool isKeyboardNavigationEnabled(const GUIContext& context)
     return found == states().end() || found->second.enabled;
 }
 
+bool takesKeys(const Window& window)
+{
+    return isMoxieLook(window) && !window.isAutoWindow() && isOperable(window) &&
+           window.isEffectiveVisible() && !window.isEffectiveDisabled();
+}
+
 bool isFocusable(const Window& window)
 {
-    if (!isMoxieLook(window) || window.isAutoWindow() || !isOperable(window) ||
-        !window.isEffectiveVisible() || window.isEffectiveDisabled())
-        return false;
-    return !window.isUserStringDefined(TabStopKey) ||
-           PropertyHelper<bool>::fromString(window.getUserString(TabStopKey));
+    return takesKeys(window) &&
+           (!window.isUserStringDefined(TabStopKey) ||
+            PropertyHelper<bool>::fromString(window.getUserString(TabStopKey)));
 }
 
 Window* focusedWidget(const GUIContext& context)
@@ -465,19 +531,37 @@ Window* focusedWidget(const GUIContext& context)
 
 bool focusWidget(Window& window)
 {
-    return isFocusable(window) && moveFocus(window.getGUIContext(), &window);
+    return isFocusable(window) && isKeyboardNavigationEnabled(window.getGUIContext()) &&
+           moveFocus(window.getGUIContext(), &window);
 }
 
 bool hasFocusRing(const Window& window)
 {
     const auto found = states().find(&window.getGUIContext());
     return found != states().end() && found->second.ringShown &&
-           found->second.ringOwner == &window && isFocusable(window);
+           found->second.ringWidget == &window && isFocusable(window) &&
+           focusedWidget(window.getGUIContext()) == &window;
+}
+
+namespace
+{
+Event::Connection s_keys, s_mouse, s_created;
+} // namespace
+
+void detachKeyboardNavigation()
+{
+    for (Event::Connection* c : {&s_keys, &s_mouse, &s_created})
+        if (connected(*c))
+            (*c)->disconnect();
+    for (auto& [context, state] : states())
+        setRing(state, nullptr, false);
 }
 
 void attachKeyboardNavigation()
 {
-    static Event::Connection keys, mouse, created;
+    Event::Connection& keys = s_keys;
+    Event::Connection& mouse = s_mouse;
+    Event::Connection& created = s_created;
     if (GlobalEventSet* events = GlobalEventSet::getSingletonPtr(); events && !connected(keys))
     {
         keys = events->subscribeEvent("Window/" + Window::EventKeyDown, &onKeyDown);

@@ -16,8 +16,11 @@ namespace MoxieLook
 void setKeyboardNavigation(GUIContext& context, bool enabled);
 bool isKeyboardNavigationEnabled(const GUIContext& context);
 
-//! Whether Tab, Shift+Tab and arrows stop at `window`: a MoxieLook widget one can operate,
-//! enabled, shown, and not opted out ("TabStop" "False").
+//! Whether `window` takes keys of its own: a MoxieLook widget one can operate, enabled and
+//! shown (not a part of another).
+bool takesKeys(const Window& window);
+//! Whether Tab, Shift+Tab and arrows stop at `window`: it takes keys and is not opted out
+//! ("TabStop" "False").
 bool isFocusable(const Window& window);
 
 //! The focused widget: the window that takes the keys, or the widget it is a part of.
@@ -32,6 +35,8 @@ bool focusWidget(Window& window);
 
 //! Subscribes to the running CEGUI's events; called as the module's types are added.
 void attachKeyboardNavigation();
+//! Lets go of them; called as the module's types are removed (the module may be unloaded).
+void detachKeyboardNavigation();
 
 } // namespace MoxieLook
 } // namespace CEGUI

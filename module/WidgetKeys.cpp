@@ -1,5 +1,6 @@
 #include "module/WidgetKeys.h"
 
+#include "looks/MXSlider.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
 
@@ -75,6 +76,20 @@ std::size_t pageOf(const Listbox& list)
                       : PageLines;
 }
 
+// A click in a multiple-selection list clears the others without an event of its own: the
+// selection changes once.
+struct ListAccess : Listbox
+{
+    static void clear(Listbox& list) { (list.*(&ListAccess::clearAllSelections_impl))(); }
+};
+struct TableAccess : MultiColumnList
+{
+    static void clear(MultiColumnList& table)
+    {
+        (table.*(&TableAccess::clearAllSelections_impl))();
+    }
+};
+
 bool listKey(Listbox& list, Key::Scan key)
 {
     const ListboxItem* selected = list.getFirstSelectedItem();
@@ -84,9 +99,8 @@ bool listKey(Listbox& list, Key::Scan key)
         return false;
     if (static_cast<long>(row) != current)
     {
-        // A single-selection list clears the old one itself, with one event as a click.
         if (list.isMultiselectEnabled())
-            list.clearAllSelections();
+            ListAccess::clear(list);
         list.setItemSelectState(row, true);
     }
     list.ensureItemIsVisible(row);
@@ -100,12 +114,17 @@ bool tableKey(MultiColumnList& table, Key::Scan key)
     std::size_t row = 0;
     if (table.getColumnCount() == 0 || !rowFor(key, table.getRowCount(), PageLines, current, row))
         return false;
-    if (static_cast<long>(row) != current)
+    // The row's first cell that holds an item (CEGUI reads the one given without a check).
+    uint column = 0;
+    while (column < table.getColumnCount() &&
+           !table.getItemAtGridReference(MCLGridRef(static_cast<uint>(row), column)))
+        ++column;
+    if (static_cast<long>(row) != current && column < table.getColumnCount())
     {
         if (table.getSelectionMode() == MultiColumnList::RowMultiple ||
             table.getSelectionMode() == MultiColumnList::CellMultiple)
-            table.clearAllSelections();
-        table.setItemSelectState(MCLGridRef(static_cast<uint>(row), 0), true);
+            TableAccess::clear(table);
+        table.setItemSelectState(MCLGridRef(static_cast<uint>(row), column), true);
     }
     table.ensureRowIsVisible(static_cast<uint>(row));
     return true;
@@ -299,6 +318,7 @@ bool menuKey(Menubar& bar, Key::Scan key)
 // CEGUI's tree keeps its top items and its branch events to itself.
 struct TreeAccess : Tree
 {
+    static void clear(Tree& tree) { (tree.*(&TreeAccess::clearAllSelections_impl))(); }
     static std::vector<TreeItem*>& items(Tree& tree) { return tree.*(&TreeAccess::d_listItems); }
     static void branchToggled(Tree& tree, TreeItem& item)
     {
@@ -358,7 +378,7 @@ bool ceguiTreeKey(Tree& tree, Key::Scan key)
     if (to != selected)
     {
         if (tree.isMultiselectEnabled())
-            tree.clearAllSelections();
+            TreeAccess::clear(tree);
         tree.setItemSelectState(to, true);
     }
     tree.ensureItemIsVisible(to);
@@ -424,9 +444,23 @@ bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
     if (auto* box = dynamic_cast<WidgetDropDownListbox*>(&focused))
         return chooseKey(*box, key);
     if (auto* slider = dynamic_cast<Slider*>(&focused))
-        return stepKey(key, slider->getClickStep(),
+    {
+        // Right and Up go where the value grows on screen.
+        const auto* own = dynamic_cast<MXSlider*>(slider);
+        const float step =
+            own && own->isReversedDirection() ? -slider->getClickStep() : slider->getClickStep();
+        return stepKey(key, step,
                        [slider](float by)
                        { slider->setCurrentValue(slider->getCurrentValue() + by); });
+    }
+    // A combo box one types into keeps Space and Return, and its arrows step the choice:
+    // F4 opens it.
+    if (auto* combo = dynamic_cast<Combobox*>(&focused);
+        combo && key == Key::F4 && !combo->isDropDownListVisible())
+    {
+        combo->showDropList();
+        return true;
+    }
     if (auto* spinner = dynamic_cast<Spinner*>(&focused))
     {
         // Its edit box keeps the caret keys.

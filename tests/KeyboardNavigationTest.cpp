@@ -5,12 +5,14 @@
 #include "widgets/ButtonEx.h"
 #include "widgets/DragEventArgs.h"
 #include "widgets/RadioButtonEx.h"
+#include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
 
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/WindowManager.h>
 #include <CEGUI/widgets/Combobox.h>
+#include <CEGUI/widgets/Editbox.h>
 #include <CEGUI/widgets/FrameWindow.h>
 #include <CEGUI/widgets/ItemEntry.h>
 #include <CEGUI/widgets/ItemListbox.h>
@@ -153,17 +155,32 @@ TEST_F(KeyboardNavigationTest, KeysClickToggleSelectAndOpenAsTheMouseWould)
     EXPECT_EQ(clicks, 2);
     check.activate();
     press(Key::Space);
-    EXPECT_TRUE(static_cast<ToggleButton&>(check).isSelected());
+    EXPECT_TRUE(static_cast<CEGUI::ToggleButton&>(check).isSelected());
     press(Key::Return);
-    EXPECT_FALSE(static_cast<ToggleButton&>(check).isSelected());
+    EXPECT_FALSE(static_cast<CEGUI::ToggleButton&>(check).isSelected());
     radio.activate();
     press(Key::Space);
     EXPECT_TRUE(static_cast<RadioButtonEx&>(radio).isSelected());
+    // A combo box one types into keeps Space and Return (its text accepted); F4 opens it.
+    int shown = 0, accepted = 0;
+    combo.subscribeEvent(Combobox::EventDropListDisplayed, [&shown] { ++shown; });
+    combo.getEditbox()->subscribeEvent(Editbox::EventTextAccepted, [&accepted] { ++accepted; });
     combo.activate();
     press(Key::Return);
+    EXPECT_FALSE(combo.isDropDownListVisible());
+    EXPECT_EQ(accepted, 1);
+    press(Key::F4);
     EXPECT_TRUE(combo.isDropDownListVisible());
     press(Key::Escape);
     EXPECT_FALSE(combo.isDropDownListVisible());
+    // Read-only, Space opens it; Return then takes the list's item and closes, opening
+    // nothing again.
+    combo.setReadOnly(true);
+    press(Key::Space);
+    EXPECT_TRUE(combo.isDropDownListVisible());
+    press(Key::Return);
+    EXPECT_FALSE(combo.isDropDownListVisible());
+    EXPECT_EQ(shown, 2);
 }
 
 TEST_F(KeyboardNavigationTest, ArrowsMoveFromButtonsToTheNearestWidgetThatWay)
@@ -458,6 +475,8 @@ TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
     moxietest::pointerTo(300, 200);
     ASSERT_TRUE(button.IsDragging());
     moxietest::sounds().clear();
+    press(Key::Space); // no click in the middle of a drag
+    EXPECT_TRUE(button.IsDragging());
     press(Key::Escape);
     EXPECT_FALSE(button.IsDragging());
     EXPECT_EQ(cancelled, 1);
@@ -467,4 +486,114 @@ TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
     EXPECT_EQ(moxietest::sounds(), std::vector<std::string>{"meup"});
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(cancelled, 1);
+}
+
+TEST_F(KeyboardNavigationTest, KeysKeepTheirPromisesWhereWidgetsNestOrDiffer)
+{
+    // A tab control takes the focus from a widget on its own page; Tab goes on past it.
+    Window& dialog = moxietest::place("MoxieLook/FrameWindow", 10, 10, 400, 300);
+    auto& tabs = static_cast<TabControl&>(
+        *WindowManager::getSingleton().createWindow("MoxieLook/TabControl"));
+    tabs.setArea(UVector2(cegui_absdim(10), cegui_absdim(40)),
+                 USize(cegui_absdim(300), cegui_absdim(150)));
+    dialog.addChild(&tabs);
+    Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", "Page");
+    page->setText("Page");
+    tabs.addTab(page);
+    Window* inside = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+    inside->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
+                    USize(cegui_absdim(80), cegui_absdim(24)));
+    page->addChild(inside);
+    Window* after = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+    after->setArea(UVector2(cegui_absdim(10), cegui_absdim(220)),
+                   USize(cegui_absdim(80), cegui_absdim(24)));
+    dialog.addChild(after);
+    inside->activate();
+    press(Key::Tab, true);
+    EXPECT_EQ(focused(), &tabs);
+    press(Key::Tab, true);
+    EXPECT_EQ(focused(), after);
+    press(Key::Tab);
+    EXPECT_EQ(focused(), &tabs);
+    press(Key::Tab);
+    EXPECT_EQ(focused(), inside);
+    // The focus moved by other means takes the ring away.
+    EXPECT_TRUE(hasFocusRing(*inside));
+    after->activate();
+    EXPECT_FALSE(hasFocusRing(*inside));
+    EXPECT_TRUE(ringOf(*inside).empty());
+
+    // A table row with nothing in its first column is still a row to move to.
+    auto& table = static_cast<MultiColumnList&>(
+        moxietest::place("MoxieLook/MultiColumnList", 450, 10, 200, 120));
+    table.addColumn("Name", 0, cegui_absdim(100));
+    table.addColumn("Size", 1, cegui_absdim(80));
+    const uint row = table.addRow();
+    table.setItem(new ListboxTextItem("12 KB"), 1, row);
+    table.activate();
+    press(Key::ArrowDown);
+    ASSERT_TRUE(table.getFirstSelectedItem());
+    EXPECT_EQ(table.getItemRowIndex(table.getFirstSelectedItem()), row);
+
+    // A list of many selections changes its selection once a key, as a click does.
+    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 450, 150, 150, 100));
+    list.setMultiselectEnabled(true);
+    for (const char* text : {"One", "Two", "Three"})
+        list.addItem(new ListboxTextItem(text));
+    int changes = 0;
+    list.subscribeEvent(Listbox::EventSelectionChanged, [&changes] { ++changes; });
+    list.activate();
+    press(Key::ArrowDown);
+    press(Key::ArrowDown);
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(list.getSelectedCount(), 1u);
+
+    // A reversed slider grows to the left: Right lowers it.
+    auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 450, 270, 200, 30));
+    slider.setProperty("ReversedDirection", "True");
+    slider.setCurrentValue(0.5f);
+    slider.activate();
+    press(Key::ArrowRight);
+    EXPECT_LT(slider.getCurrentValue(), 0.5f);
+}
+
+TEST_F(KeyboardNavigationTest, EveryKindOfButtonIsReachedByTabAndClickedBySpace)
+{
+    // Two of a kind: Tab from the first reaches the second, Space clicks it with the sound
+    // a click makes. (Toggles and radio buttons change their state as well.)
+    for (const char* type :
+         {"MoxieLook/Button", "MoxieLook/ButtonEx", "MoxieLook/ImageButton", "MoxieLook/IconButton",
+          "MoxieLook/MenuButton", "MoxieLook/SystemButton", "MoxieLook/ToggleButton",
+          "MoxieLook/RadioButton", "MoxieLook/MenubarItem"})
+    {
+        SCOPED_TRACE(type);
+        moxietest::freshSheet();
+        Window& first = moxietest::place(type, 10, 10, 100, 30);
+        Window& second = moxietest::place(type, 10, 60, 100, 30);
+        if (!isFocusable(second))
+        {
+            EXPECT_STREQ(type, "MoxieLook/MenubarItem"); // a menu's part, reached by its bar
+            continue;
+        }
+        int clicks = 0;
+        second.subscribeEvent(PushButton::EventClicked, [&clicks] { ++clicks; });
+        first.activate();
+        press(Key::Tab);
+        ASSERT_EQ(focused(), &second);
+        moxietest::sounds().clear();
+        press(Key::Space);
+        EXPECT_EQ(clicks, 1);
+        if (dynamic_cast<ButtonEx*>(&second))
+        {
+            EXPECT_EQ(moxietest::sounds().size(), 1u);
+        }
+        if (auto* toggle = dynamic_cast<MoxieLook::ToggleButton*>(&second))
+        {
+            EXPECT_TRUE(toggle->isSelected());
+        }
+        if (auto* radio = dynamic_cast<RadioButtonEx*>(&second))
+        {
+            EXPECT_TRUE(radio->isSelected());
+        }
+    }
 }

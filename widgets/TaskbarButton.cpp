@@ -14,6 +14,15 @@ TaskbarButton::TaskbarButton(const String& type, const String& name)
     addEvent(EventExplicitlyClicked);
 }
 
+void TaskbarButton::ClickByKey()
+{
+    setSelected(!isSelected());
+    MouseEventArgs args(this);
+    args.button = LeftButton;
+    args.position = getUnclippedOuterRect().get().getPosition();
+    fireEvent(EventExplicitlyClicked, args, RadioButton::EventNamespace);
+}
+
 void TaskbarButton::onMouseButtonUp(MouseEventArgs& e)
 {
     if (e.button == LeftButton && isPushed())

@@ -21,6 +21,9 @@ public:
     //! imageset `imagesetName` instead of the look's own.
     virtual void setCustomBitmap(const String& imagesetName, const String& imageName) = 0;
 
+    //! What a click does, for a key: the selection toggled, "ExplicitlyClicked" fired.
+    void ClickByKey();
+
 protected:
     void onMouseButtonUp(MouseEventArgs& e) override;
 };
