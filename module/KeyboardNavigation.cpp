@@ -26,6 +26,8 @@
 #include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
 #include <CEGUI/widgets/RadioButton.h>
+#include <CEGUI/widgets/ScrollablePane.h>
+#include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
@@ -86,7 +88,8 @@ bool isOperable(const Window& w)
            dynamic_cast<const Combobox*>(&w) || dynamic_cast<const MultiColumnList*>(&w) ||
            dynamic_cast<const ItemListbox*>(&w) || dynamic_cast<const Menubar*>(&w) ||
            dynamic_cast<const TabControl*>(&w) || dynamic_cast<const Tree*>(&w) ||
-           dynamic_cast<const TreeView*>(&w) || dynamic_cast<const WidgetDropDownListbox*>(&w);
+           dynamic_cast<const TreeView*>(&w) || dynamic_cast<const WidgetDropDownListbox*>(&w) ||
+           dynamic_cast<const Scrollbar*>(&w) || dynamic_cast<const PopupMenu*>(&w);
 }
 
 // Widgets that leave the arrow keys to move the focus.
@@ -276,10 +279,37 @@ struct EditboxAccess : Editbox
     }
 };
 
+// A widget reached inside a scrolled pane comes into view, as far as the pane scrolls.
+void scrollIntoView(Window& target)
+{
+    // The bar's position in pixels: how far the place `at` (in view) must move to show
+    // `size` pixels from it within `viewSize`.
+    auto bring = [](Scrollbar& bar, float at, float size, float viewSize)
+    {
+        const float position = bar.getScrollPosition();
+        if (at < 0)
+            bar.setScrollPosition(position + at);
+        else if (at + size > viewSize)
+            bar.setScrollPosition(position + std::min(at, at + size - viewSize));
+    };
+    for (Window* w = target.getParent(); w; w = w->getParent())
+        if (auto* pane = dynamic_cast<ScrollablePane*>(w))
+        {
+            const Rectf view = pane->getViewableArea();
+            const Vector2f corner = pane->getUnclippedOuterRect().get().d_min + view.d_min;
+            const Rectf shown = target.getUnclippedOuterRect().get();
+            bring(*pane->getVertScrollbar(), shown.top() - corner.d_y, shown.getHeight(),
+                  view.getHeight());
+            bring(*pane->getHorzScrollbar(), shown.left() - corner.d_x, shown.getWidth(),
+                  view.getWidth());
+        }
+}
+
 bool moveFocus(GUIContext& context, Window* target)
 {
     if (!target)
         return false;
+    scrollIntoView(*target);
     target->activate();
     // Activating a window leaves its active children active: the keys would still go to
     // them (a tab control reached from a widget on its page).
@@ -512,7 +542,8 @@ bool takesKeys(const Window& window)
 
 bool isFocusable(const Window& window)
 {
-    return takesKeys(window) &&
+    // An open pop-up menu takes the keys, but Tab does not stop at menus.
+    return takesKeys(window) && !dynamic_cast<const PopupMenu*>(&window) &&
            (!window.isUserStringDefined(TabStopKey) ||
             PropertyHelper<bool>::fromString(window.getUserString(TabStopKey)));
 }

@@ -15,6 +15,7 @@
 #include <CEGUI/widgets/MultiColumnList.h>
 #include <CEGUI/widgets/MultiLineEditbox.h>
 #include <CEGUI/widgets/PopupMenu.h>
+#include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
 #include <CEGUI/widgets/TabControl.h>
@@ -233,11 +234,13 @@ void openWithFirstMarked(MenuItem& item)
 
 // Along the bar, down the pop-ups: Left and Right between the bar's items (opening the one
 // reached when one was open), Down and Up in the open pop-up, Right into a sub-menu, Left
-// out of it, Return or Space to click, Escape to close.
-bool menuKey(Menubar& bar, Key::Scan key)
+// out of it, Return or Space to click, Escape to close. A pop-up menu of its own (no bar)
+// is walked the same way from its own items.
+bool menuKey(MenuBase& top, Key::Scan key)
 {
-    // The open pop-ups, from the bar down, and the items that opened them.
-    std::vector<MenuBase*> open{&bar};
+    auto* bar = dynamic_cast<Menubar*>(&top);
+    // The open pop-ups, from the top down, and the items that opened them.
+    std::vector<MenuBase*> open{&top};
     std::vector<MenuItem*> openers;
     while (MenuItem* item = openIn(*open.back()))
     {
@@ -246,31 +249,36 @@ bool menuKey(Menubar& bar, Key::Scan key)
     }
     MenuBase& deepest = *open.back();
     MenuItem* marked = markedIn(deepest);
-    MenuItem* onBar = openers.empty() ? markedIn(bar) : openers.front();
+    const bool onBarOnly = bar && open.size() == 1;
+    MenuItem* onBar = !bar ? nullptr : openers.empty() ? markedIn(*bar) : openers.front();
     auto alongBar = [&](int by)
     {
-        MenuItem* next = neighbour(bar, onBar, by);
+        if (!bar)
+            return false;
+        MenuItem* next = neighbour(*bar, onBar, by);
         if (!next)
             return false;
         const bool wasOpen = open.size() > 1;
         if (onBar && wasOpen)
             onBar->closePopupMenu();
-        markOnly(bar, next);
+        markOnly(*bar, next);
         if (wasOpen)
             openWithFirstMarked(*next);
         return true;
     };
+    // Left closes a sub-menu: below a bar's menu, or below the pop-up itself.
+    const std::size_t closable = bar ? 2 : 1;
     switch (key)
     {
     case Key::ArrowLeft:
-        if (open.size() > 2)
+        if (open.size() > closable)
         {
             openers.back()->closePopupMenu();
             return true;
         }
         return alongBar(-1);
     case Key::ArrowRight:
-        if (open.size() > 1 && marked && marked->getPopupMenu())
+        if (!onBarOnly && marked && marked->getPopupMenu())
         {
             openWithFirstMarked(*marked);
             return true;
@@ -278,9 +286,9 @@ bool menuKey(Menubar& bar, Key::Scan key)
         return alongBar(1);
     case Key::ArrowDown:
     case Key::ArrowUp:
-        if (open.size() == 1)
+        if (onBarOnly)
         {
-            MenuItem* item = onBar ? onBar : neighbour(bar, nullptr, 1);
+            MenuItem* item = onBar ? onBar : neighbour(*bar, nullptr, 1);
             if (item)
                 openWithFirstMarked(*item);
             return item != nullptr;
@@ -291,7 +299,7 @@ bool menuKey(Menubar& bar, Key::Scan key)
     case Key::NumpadEnter:
     case Key::Space:
     {
-        MenuItem* item = open.size() > 1 ? marked : (onBar ? onBar : neighbour(bar, nullptr, 1));
+        MenuItem* item = onBarOnly ? (onBar ? onBar : neighbour(*bar, nullptr, 1)) : marked;
         if (!item)
             return false;
         if (item->getPopupMenu())
@@ -306,9 +314,12 @@ bool menuKey(Menubar& bar, Key::Scan key)
         return true;
     }
     case Key::Escape:
-        if (open.size() < 2)
+        if (open.size() > 1)
+            openers.back()->closePopupMenu();
+        else if (auto* popup = dynamic_cast<PopupMenu*>(&top))
+            popup->closePopupMenu();
+        else
             return false;
-        open[open.size() - 2]->getPopupMenuItem()->closePopupMenu();
         return true;
     default:
         return false;
@@ -360,6 +371,7 @@ bool ceguiTreeKey(Tree& tree, Key::Scan key)
         if (selected->getItemCount() > 0 && selected->getIsOpen() != open)
         {
             selected->toggleIsOpen();
+            tree.doScrollbars(); // as the mouse's toggle: the bars follow
             TreeAccess::branchToggled(tree, *selected);
             tree.invalidate();
             return true;
@@ -461,6 +473,27 @@ bool operateInside(Window& focused, Key::Scan key, bool shift, bool control)
         combo->showDropList();
         return true;
     }
+    if (auto* bar = dynamic_cast<Scrollbar*>(&focused))
+    {
+        // Page Up and Page Down a page, the arrows a step.
+        const float page = bar->getPageSize();
+        switch (key)
+        {
+        case Key::PageUp:
+        case Key::PageDown:
+            bar->setScrollPosition(bar->getScrollPosition() + (key == Key::PageUp ? -page : page));
+            return true;
+        default:
+            return stepKey(key == Key::ArrowUp     ? Key::ArrowDown
+                           : key == Key::ArrowDown ? Key::ArrowUp
+                                                   : key,
+                           bar->getStepSize(),
+                           [bar](float by)
+                           { bar->setScrollPosition(bar->getScrollPosition() + by); });
+        }
+    }
+    if (auto* popup = dynamic_cast<PopupMenu*>(&focused))
+        return menuKey(*popup, key);
     if (auto* spinner = dynamic_cast<Spinner*>(&focused))
     {
         // Its edit box keeps the caret keys.

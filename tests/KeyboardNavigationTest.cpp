@@ -21,7 +21,9 @@
 #include <CEGUI/widgets/MenuItem.h>
 #include <CEGUI/widgets/Menubar.h>
 #include <CEGUI/widgets/MultiColumnList.h>
+#include <CEGUI/widgets/PopupMenu.h>
 #include <CEGUI/widgets/PushButton.h>
+#include <CEGUI/widgets/ScrollablePane.h>
 #include <CEGUI/widgets/Scrollbar.h>
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Spinner.h>
@@ -409,8 +411,30 @@ TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
     press(Key::ArrowRight);
     EXPECT_FALSE(file->isOpened());
     EXPECT_TRUE(edit->isOpened());
-    press(Key::Escape);
+    press(Key::ArrowLeft);
+    EXPECT_TRUE(file->isOpened());
     EXPECT_FALSE(edit->isOpened());
+    press(Key::Escape);
+    EXPECT_FALSE(file->isOpened());
+
+    // A pop-up menu of its own (a context menu) is walked from its items; Escape closes it.
+    auto& context =
+        static_cast<PopupMenu&>(moxietest::place("MoxieLook/PopupMenu", 200, 100, 120, 80));
+    MenuItem* copy = item(context, "Copy");
+    MenuItem* paste = item(context, "Paste");
+    int pastes = 0;
+    paste->subscribeEvent(MenuItem::EventClicked, [&pastes] { ++pastes; });
+    context.openPopupMenu();
+    context.activate();
+    press(Key::ArrowDown);
+    EXPECT_TRUE(copy->isHovering());
+    press(Key::ArrowDown);
+    press(Key::Return);
+    EXPECT_EQ(pastes, 1);
+    context.openPopupMenu();
+    context.activate();
+    press(Key::Escape);
+    EXPECT_FALSE(context.isVisible());
 }
 
 TEST_F(KeyboardNavigationTest, CeguisTreeAndTheItemListWalkTheirItems)
@@ -596,4 +620,39 @@ TEST_F(KeyboardNavigationTest, EveryKindOfButtonIsReachedByTabAndClickedBySpace)
             EXPECT_TRUE(radio->isSelected());
         }
     }
+}
+
+TEST_F(KeyboardNavigationTest, ScrollBarsStepAndPageAndScrolledPanesShowWhatTabReaches)
+{
+    auto& bar =
+        static_cast<Scrollbar&>(moxietest::place("MoxieLook/VerticalScrollbar", 10, 10, 18, 200));
+    bar.setDocumentSize(100);
+    bar.setPageSize(20);
+    bar.setStepSize(1);
+    bar.activate();
+    press(Key::ArrowDown);
+    EXPECT_EQ(bar.getScrollPosition(), 1);
+    press(Key::PageDown);
+    EXPECT_EQ(bar.getScrollPosition(), 21);
+    press(Key::ArrowUp);
+    EXPECT_EQ(bar.getScrollPosition(), 20);
+
+    // Tab to a button far down a scrolled pane: the pane scrolls to show it.
+    auto& pane = static_cast<ScrollablePane&>(
+        moxietest::place("MoxieLook/ScrollablePane", 100, 10, 200, 150));
+    Window* top = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+    top->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
+                 USize(cegui_absdim(80), cegui_absdim(24)));
+    pane.addChild(top);
+    Window* low = WindowManager::getSingleton().createWindow("MoxieLook/Button");
+    low->setArea(UVector2(cegui_absdim(10), cegui_absdim(600)),
+                 USize(cegui_absdim(80), cegui_absdim(24)));
+    pane.addChild(low);
+    top->activate();
+    press(Key::Tab);
+    ASSERT_EQ(focused(), low);
+    const Rectf seen = pane.getUnclippedInnerRect().get();
+    const Rectf shown = low->getUnclippedOuterRect().get();
+    EXPECT_GE(shown.top(), seen.top());
+    EXPECT_LE(shown.bottom(), seen.bottom());
 }
