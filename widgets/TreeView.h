@@ -164,6 +164,8 @@ public:
         //! UpdateHoveringState's walk, without asking for the tree at every node.
         Node* updateHover(const Vector2f& point, Flagged& flagged);
         void SetVisible(bool visible);
+        //! Takes `child` out of the children, telling the tree.
+        void eraseChild(Children::iterator child);
         void selectIn(bool select, bool recursive, TreeView* owner);
         float textWidth(const Font& font, std::uint32_t epoch);
 

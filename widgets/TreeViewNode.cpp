@@ -313,15 +313,7 @@ bool TreeView::Node::Remove(Node* node)
     {
         if (it->get() == node)
         {
-            const bool atCursor = it == d_cursor;
-            TreeView* owner = tree();
-            if (owner)
-                owner->nodeLeaving(*node);
-            d_children.erase(it);
-            if (atCursor)
-                d_cursor = d_children.begin();
-            if (owner)
-                owner->subtreeChanged(*this);
+            eraseChild(it);
             return true;
         }
         if ((*it)->Remove(node))
@@ -336,21 +328,26 @@ bool TreeView::Node::Remove(const String& name)
     {
         if ((*it)->d_name == name)
         {
-            const bool atCursor = it == d_cursor;
-            TreeView* owner = tree();
-            if (owner)
-                owner->nodeLeaving(**it);
-            d_children.erase(it);
-            if (atCursor)
-                d_cursor = d_children.begin();
-            if (owner)
-                owner->subtreeChanged(*this);
+            eraseChild(it);
             return true;
         }
         if ((*it)->Remove(name))
             return true;
     }
     return false;
+}
+
+void TreeView::Node::eraseChild(Children::iterator child)
+{
+    const bool atCursor = child == d_cursor;
+    TreeView* owner = tree();
+    if (owner)
+        owner->nodeLeaving(**child); // before it goes: the tree forgets what it held of it
+    d_children.erase(child);
+    if (atCursor)
+        d_cursor = d_children.begin();
+    if (owner)
+        owner->subtreeChanged(*this);
 }
 
 void TreeView::Node::RemoveAll()
