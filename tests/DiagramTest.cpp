@@ -33,11 +33,7 @@ protected:
 
     std::vector<DrawnQuad> quadsOf(const std::string& image)
     {
-        std::vector<DrawnQuad> found;
-        for (const DrawnQuad& q : drawnBy(*diagram))
-            if (q.image == image)
-                found.push_back(q);
-        return found;
+        return moxietest::allOf(drawnBy(*diagram), image);
     }
 
     Diagram* diagram = nullptr;
@@ -209,11 +205,8 @@ TEST_F(DiagramTest, LabelsAndGridLines)
     const Font& font = *diagram->getFont();
     EXPECT_EQ(diagram->getModel().yLabelWidth, font.getTextExtent("half"));
 
-    auto textOf = [&](const std::vector<DrawnQuad>& quads)
-    {
-        return *std::find_if(quads.begin(), quads.end(),
-                             [](const DrawnQuad& q) { return q.image == "text"; });
-    };
+    auto textOf = [](const std::vector<DrawnQuad>& quads)
+    { return moxietest::find(quads, "text").value(); };
     // The y label: right-aligned against the graph, in a box from 10 above its value.
     std::vector<DrawnQuad> quads = drawnBy(*diagram);
     Rectf graph = diagram->getGraphRect();

@@ -20,18 +20,6 @@ using moxietest::drawnBy;
 
 namespace
 {
-void type(const std::string& text)
-{
-    for (char c : text)
-        context().injectChar(static_cast<utf32>(c));
-}
-
-void key(Key::Scan scan)
-{
-    context().injectKeyDown(scan);
-    context().injectKeyUp(scan);
-}
-
 class EditboxTest : public ::testing::Test
 {
 protected:
@@ -57,11 +45,11 @@ TEST_F(EditboxTest, TypingCaretClicksAndSelections)
 {
     moxietest::click(100, 20);
     ASSERT_TRUE(box->hasInputFocus());
-    type("Hello world");
+    moxietest::type("Hello world");
     EXPECT_EQ(box->getText(), "Hello world");
     EXPECT_EQ(box->getCaretIndex(), 11u);
-    key(Key::ArrowLeft);
-    key(Key::Backspace);
+    moxietest::press(Key::ArrowLeft);
+    moxietest::press(Key::Backspace);
     EXPECT_EQ(box->getText(), "Hello word");
 
     // A click lands on the glyph boundary nearest the pointer.
@@ -73,23 +61,16 @@ TEST_F(EditboxTest, TypingCaretClicksAndSelections)
     EXPECT_EQ(box->getCaretIndex(), 5u);
 
     // Dragging selects; so do shift and the arrows.
-    moxietest::pointerTo(boundaryX(0) + 1, 20);
-    moxietest::leftDown();
-    moxietest::pointerTo(boundaryX(5) + 1, 20);
-    moxietest::leftUp();
+    moxietest::drag(Vector2f(boundaryX(0) + 1, 20), Vector2f(boundaryX(5) + 1, 20));
     EXPECT_EQ(box->getSelectionStartIndex(), 0u);
     EXPECT_EQ(box->getSelectionEndIndex(), 5u);
-    key(Key::End);
-    context().injectKeyDown(Key::LeftShift);
-    key(Key::ArrowLeft);
-    key(Key::ArrowLeft);
-    context().injectKeyUp(Key::LeftShift);
+    moxietest::press(Key::End);
+    moxietest::press(Key::ArrowLeft, true);
+    moxietest::press(Key::ArrowLeft, true);
     EXPECT_EQ(box->getSelectionLength(), 2u);
     const auto quads = drawnBy(*box);
-    const auto brush =
-        std::find_if(quads.begin(), quads.end(),
-                     [](const moxietest::DrawnQuad& q) { return q.image == "EditboxSelection"; });
-    ASSERT_NE(brush, quads.end());
+    const auto brush = moxietest::find(quads, "EditboxSelection");
+    ASSERT_TRUE(brush);
     EXPECT_NEAR(brush->rect.getWidth(), box->getFont()->getTextAdvance("rd"), 0.5f);
     EXPECT_EQ(quads[0].image, "EditboxFill"); // under the focused frame
     EXPECT_EQ(quads[1].image, "EditboxFrameFocusTopLeft");
@@ -98,7 +79,7 @@ TEST_F(EditboxTest, TypingCaretClicksAndSelections)
 TEST_F(EditboxTest, LongTextsScrollToKeepTheCaretInView)
 {
     box->activate();
-    type(std::string(80, 'm'));
+    moxietest::type(std::string(80, 'm'));
     drawnBy(*box);
     const float caretX = boundaryX(80);
     const Rectf area = box->textArea();
@@ -106,18 +87,18 @@ TEST_F(EditboxTest, LongTextsScrollToKeepTheCaretInView)
     EXPECT_LT(box->textOffset(), 0);
     EXPECT_LE(caretX, left + area.right());
     EXPECT_GE(caretX, left + area.left());
-    key(Key::Home);
+    moxietest::press(Key::Home);
     drawnBy(*box);
     EXPECT_EQ(box->textOffset(), 0);
 
     // Deleting before the end keeps the end at the right: no blank room opens after it.
-    key(Key::End);
+    moxietest::press(Key::End);
     drawnBy(*box);
     for (int i = 0; i < 10; ++i)
-        key(Key::ArrowLeft);
+        moxietest::press(Key::ArrowLeft);
     drawnBy(*box);
     for (int i = 0; i < 10; ++i)
-        key(Key::Delete);
+        moxietest::press(Key::Delete);
     drawnBy(*box);
     const float caretWidth =
         ImageManager::getSingleton().get("MoxieLook/EditboxCarat").getRenderedSize().d_width;
@@ -126,17 +107,14 @@ TEST_F(EditboxTest, LongTextsScrollToKeepTheCaretInView)
     // A scrolled text replaced by a short one is drawn from the left, in view.
     const auto shortTextAt = [&]
     {
-        const auto quads = drawnBy(*box);
-        const auto text =
-            std::find_if(quads.begin(), quads.end(),
-                         [](const moxietest::DrawnQuad& q) { return q.image == "text"; });
-        return text == quads.end() ? -1e9f : text->rect.left();
+        const auto text = moxietest::find(drawnBy(*box), "text");
+        return text ? text->rect.left() : -1e9f;
     };
     box->setText("Hi");
     EXPECT_NEAR(shortTextAt(), area.left(), 2);
-    type(std::string(80, 'm'));
+    moxietest::type(std::string(80, 'm'));
     box->setSelection(0, 82);
-    type("x");
+    moxietest::type("x");
     EXPECT_EQ(box->getText(), "x");
     EXPECT_NEAR(shortTextAt(), area.left(), 2);
 }
@@ -156,7 +134,7 @@ TEST_F(EditboxTest, MaskReadOnlyPlaceholderAndSelectAllOnFocus)
     EXPECT_EQ(box->visualText(), String(6, box->getMaskCodePoint()));
 
     box->setReadOnly(true);
-    type("x");
+    moxietest::type("x");
     EXPECT_EQ(box->getText(), "secret");
     quads = drawnBy(*box);
     EXPECT_EQ(quads[0].image, "EditboxFillReadOnly");
@@ -179,37 +157,37 @@ TEST_F(EditboxTest, ValidationRejectsWrongInputAndAcceptsPartial)
 {
     box->setProperty("ValidationString", "[0-9]{2}-[0-9]{2}");
     box->activate();
-    type("12-");
+    moxietest::type("12-");
     EXPECT_EQ(box->getText(), "12-"); // partial: still being typed
-    type("x");
+    moxietest::type("x");
     EXPECT_EQ(box->getText(), "12-");
-    type("34");
+    moxietest::type("34");
     EXPECT_EQ(box->getText(), "12-34");
     EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_VALID);
     // The box can be emptied to start again.
     for (int i = 0; i < 5; ++i)
-        key(Key::Backspace);
+        moxietest::press(Key::Backspace);
     EXPECT_EQ(box->getText(), "");
-    type("9");
+    moxietest::type("9");
     EXPECT_EQ(box->getText(), "9");
 
     // Every branch is tried against the whole text.
     box->setText("");
     box->setProperty("ValidationString", "\\d+|\\d+\\.\\d+");
-    type("1.5");
+    moxietest::type("1.5");
     EXPECT_EQ(box->getText(), "1.5");
     EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_VALID);
-    key(Key::Backspace);
+    moxietest::press(Key::Backspace);
     EXPECT_EQ(box->getText(), "1.");
     EXPECT_EQ(box->getTextMatchState(), RegexMatcher::MS_PARTIAL);
-    type("x");
+    moxietest::type("x");
     EXPECT_EQ(box->getText(), "1.");
     EXPECT_THROW(box->setProperty("ValidationString", "([0-9"), InvalidRequestException);
     // A host's handler decides over the default.
     box->setProperty("ValidationString", "[a-z]*");
     box->subscribeEvent(Editbox::EventTextValidityChanged, [] { return true; });
     box->setText("");
-    type("A");
+    moxietest::type("A");
     EXPECT_EQ(box->getText(), "A");
 }
 
@@ -218,17 +196,16 @@ TEST_F(EditboxTest, MultiLineTextWrapsAndScrollsToTheCaret)
     auto& lines = static_cast<MXMultiLineEditBox&>(
         moxietest::place("MoxieLook/MultiLineEditbox", 10, 60, 160, 50));
     lines.activate();
-    type("one two three four five six seven eight nine ten eleven twelve thirteen fourteen");
+    moxietest::type(
+        "one two three four five six seven eight nine ten eleven twelve thirteen fourteen");
     EXPECT_GT(lines.getFormattedLines().size(), 3u); // wrapped
     const Rectf area = lines.textRenderArea();
     EXPECT_LE(area.right(), 160 - 2 - MXMultiLineEditBox::ScrollbarThickness);
     Scrollbar* bar = lines.getVertScrollbar();
     EXPECT_TRUE(bar->isVisible());
     EXPECT_GT(bar->getScrollPosition(), 0); // the caret, at the end, is in view
-    key(Key::Home);
-    context().injectKeyDown(Key::LeftControl);
-    key(Key::Home);
-    context().injectKeyUp(Key::LeftControl);
+    moxietest::press(Key::Home);
+    moxietest::press(Key::Home, false, true);
     EXPECT_EQ(bar->getScrollPosition(), 0);
 
     // Lines no longer wrapped bring the other bar too; the two meet at the corner.
@@ -287,11 +264,11 @@ TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
         spinner.setTextInputMode(t.mode);
         edit.activate();
         edit.setSelection(0, edit.getText().length());
-        key(Key::Delete);
-        type(t.valid);
+        moxietest::press(Key::Delete);
+        moxietest::type(t.valid);
         EXPECT_EQ(spinner.getCurrentValue(), t.value);
         const String before = edit.getText();
-        type(t.invalid);
+        moxietest::type(t.invalid);
         EXPECT_EQ(edit.getText(), before);
         EXPECT_EQ(spinner.getCurrentValue(), t.value);
     }
@@ -332,9 +309,9 @@ TEST_F(EditboxTest, EmptyMultiLineBoxesTakeEveryKindOfInput)
     boxes.back().second->setText("ab");
     boxes.back().second->activate();
     boxes.back().second->setCaretIndex(2);
-    key(Key::Backspace);
-    key(Key::Backspace);
-    key(Key::Backspace);
+    moxietest::press(Key::Backspace);
+    moxietest::press(Key::Backspace);
+    moxietest::press(Key::Backspace);
     Window* loaded = WindowManager::getSingleton().loadLayoutFromString(
         "<GUILayout version=\"4\"><Window type=\"MoxieLook/MultiLineEditbox\" name=\"fromFile\">"
         "<Property name=\"Area\" value=\"{{0,10},{0,270},{0,210},{0,330}}\" />"
@@ -351,18 +328,15 @@ TEST_F(EditboxTest, EmptyMultiLineBoxesTakeEveryKindOfInput)
         const Vector2f at = centreOf(*lines);
         moxietest::click(at.d_x, at.d_y);
         EXPECT_EQ(lines->getCaretIndex(), 0u);
-        moxietest::pointerTo(at.d_x, at.d_y);
-        moxietest::leftDown();
-        moxietest::pointerTo(at.d_x + 40, at.d_y + 20);
-        moxietest::leftUp();
+        moxietest::drag(at, at + Vector2f(40, 20));
         moxietest::doubleClick(at.d_x, at.d_y);
         for (Key::Scan scan : {Key::ArrowLeft, Key::ArrowRight, Key::ArrowUp, Key::ArrowDown,
                                Key::Home, Key::End, Key::Delete, Key::Backspace, Key::Return})
-            key(scan);
+            moxietest::press(scan);
         drawnBy(*lines);
         if (lines->isReadOnly())
             continue;
-        type("xy");
+        moxietest::type("xy");
         EXPECT_EQ(lines->getText().substr(0, 3), "\nxy") << "Return, then the typing";
         moxietest::click(at.d_x, at.d_y);
         drawnBy(*lines);

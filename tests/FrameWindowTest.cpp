@@ -158,7 +158,7 @@ TEST_F(FrameWindowTest, MinimisingDrawsFortyShrinkingFramesThenNothing)
     EXPECT_EQ(sounds().size(), 1u);
 }
 
-TEST_F(FrameWindowTest, RestoringWithoutAnimationTakesOneFrameAndBringsThePartsBack)
+TEST_F(FrameWindowTest, RestoringTakesOneFrameOrAnimatesFromTheTaskBar)
 {
     const Rectf own = frame->getUnclippedOuterRect().get();
     const Rectf bar(20, 570, 60, 596);
@@ -185,13 +185,8 @@ TEST_F(FrameWindowTest, RestoringWithoutAnimationTakesOneFrameAndBringsThePartsB
     ASSERT_EQ(normal.size(), 9u);
     EXPECT_EQ(normal[0].image, "Background");
     EXPECT_EQ(frameCorner(normal).getPosition(), Vector2f(0, 0));
-}
 
-TEST_F(FrameWindowTest, RestoringWithAnimationStartsOnTheTaskBar)
-{
-    const Rectf own = frame->getUnclippedOuterRect().get();
-    const Rectf bar(20, 570, 60, 596);
-    frame->setRectangleOnTaskbar(bar);
+    // Restored with the animation, the first frame starts on the task bar.
     frame->minimize(false);
     nextFrame();
     frame->restore(true);
@@ -283,10 +278,7 @@ TEST_F(FrameWindowTest, TitleButtonsTakeClicksAfterTheTitleBarWasUsed)
              [&]
              {
                  const Vector2f at = titleSpot(*window);
-                 moxietest::pointerTo(at.d_x, at.d_y);
-                 moxietest::leftDown();
-                 moxietest::pointerTo(at.d_x + 15, at.d_y + 10);
-                 moxietest::leftUp();
+                 moxietest::drag(at, at + Vector2f(15, 10));
              }},
             {"double click (roll up)",
              [&] { moxietest::doubleClick(titleSpot(*window).d_x, titleSpot(*window).d_y); }},
@@ -309,8 +301,7 @@ TEST_F(FrameWindowTest, TitleButtonsTakeClicksAfterTheTitleBarWasUsed)
                 int clicks = 0;
                 Event::Connection counted =
                     button->subscribeEvent(PushButton::EventClicked, [&clicks] { ++clicks; });
-                const Vector2f at = moxietest::centreOf(*button);
-                moxietest::click(at.d_x, at.d_y);
+                moxietest::clickOn(*button);
                 counted->disconnect();
                 EXPECT_EQ(clicks, 1) << window->getName() << ": " << name << " after " << touch;
                 // Put the window back as it was for the next round.

@@ -36,6 +36,7 @@
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
 using moxietest::drawnBy;
+using moxietest::press;
 
 namespace
 {
@@ -45,20 +46,6 @@ protected:
     void SetUp() override { moxietest::freshSheet(); }
     void TearDown() override { setKeyboardNavigation(moxietest::context(), true); }
 
-    static void press(Key::Scan key, bool shift = false, bool control = false)
-    {
-        GUIContext& gui = moxietest::context();
-        if (shift)
-            gui.injectKeyDown(Key::LeftShift);
-        if (control)
-            gui.injectKeyDown(Key::LeftControl);
-        gui.injectKeyDown(key);
-        gui.injectKeyUp(key);
-        if (control)
-            gui.injectKeyUp(Key::LeftControl);
-        if (shift)
-            gui.injectKeyUp(Key::LeftShift);
-    }
     static Window* focused() { return focusedWidget(moxietest::context()); }
 
     // A frame window holding a button, an edit box, a check box and a multi-line box, and
@@ -68,11 +55,8 @@ protected:
         frame = &moxietest::place("MoxieLook/FrameWindow", 10, 10, 400, 300);
         auto add = [this](const char* type, float x, float y)
         {
-            Window* w = WindowManager::getSingleton().createWindow(type);
-            w->setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
-                       USize(cegui_absdim(120), cegui_absdim(28)));
+            Window* w = &moxietest::child(*frame, type, x, y, 120, 28);
             w->setText(type);
-            frame->addChild(w);
             return w;
         };
         ok = add("MoxieLook/Button", 10, 40);
@@ -90,18 +74,14 @@ protected:
 
 std::vector<moxietest::DrawnQuad> ringOf(Window& window)
 {
-    std::vector<moxietest::DrawnQuad> ring;
-    for (const auto& quad : drawnBy(window))
-        if (quad.image == "FocusRing")
-            ring.push_back(quad);
-    return ring;
+    return moxietest::allOf(drawnBy(window), "FocusRing");
 }
 } // namespace
 
 TEST_F(KeyboardNavigationTest, TabWalksTheFrameInOrderWrapsAndSkipsWhatCannotTakeIt)
 {
     buildDialog();
-    moxietest::click(moxietest::centreOf(*ok).d_x, moxietest::centreOf(*ok).d_y);
+    moxietest::clickOn(*ok);
     ASSERT_EQ(focused(), ok);
     // Labels are no stops; the other window's button is outside this frame.
     std::vector<Window*> seen;
@@ -293,10 +273,8 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
         page->setText(title);
         tabs.addTab(page);
     }
-    Window* inside = WindowManager::getSingleton().createWindow("MoxieLook/Button");
-    inside->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
-                    USize(cegui_absdim(80), cegui_absdim(24)));
-    tabs.getTabContentsAtIndex(0)->addChild(inside);
+    Window* inside =
+        &moxietest::child(*tabs.getTabContentsAtIndex(0), "MoxieLook/Button", 10, 10, 80, 24);
     inside->activate();
     press(Key::Tab, false, true);
     EXPECT_EQ(tabs.getSelectedTabIndex(), 1u);
@@ -517,21 +495,12 @@ TEST_F(KeyboardNavigationTest, KeysKeepTheirPromisesWhereWidgetsNestOrDiffer)
     // A tab control takes the focus from a widget on its own page; Tab goes on past it.
     Window& dialog = moxietest::place("MoxieLook/FrameWindow", 10, 10, 400, 300);
     auto& tabs = static_cast<TabControl&>(
-        *WindowManager::getSingleton().createWindow("MoxieLook/TabControl"));
-    tabs.setArea(UVector2(cegui_absdim(10), cegui_absdim(40)),
-                 USize(cegui_absdim(300), cegui_absdim(150)));
-    dialog.addChild(&tabs);
+        moxietest::child(dialog, "MoxieLook/TabControl", 10, 40, 300, 150));
     Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", "Page");
     page->setText("Page");
     tabs.addTab(page);
-    Window* inside = WindowManager::getSingleton().createWindow("MoxieLook/Button");
-    inside->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
-                    USize(cegui_absdim(80), cegui_absdim(24)));
-    page->addChild(inside);
-    Window* after = WindowManager::getSingleton().createWindow("MoxieLook/Button");
-    after->setArea(UVector2(cegui_absdim(10), cegui_absdim(220)),
-                   USize(cegui_absdim(80), cegui_absdim(24)));
-    dialog.addChild(after);
+    Window* inside = &moxietest::child(*page, "MoxieLook/Button", 10, 10, 80, 24);
+    Window* after = &moxietest::child(dialog, "MoxieLook/Button", 10, 220, 80, 24);
     inside->activate();
     press(Key::Tab, true);
     EXPECT_EQ(focused(), &tabs);
@@ -640,14 +609,8 @@ TEST_F(KeyboardNavigationTest, ScrollBarsStepAndPageAndScrolledPanesShowWhatTabR
     // Tab to a button far down a scrolled pane: the pane scrolls to show it.
     auto& pane = static_cast<ScrollablePane&>(
         moxietest::place("MoxieLook/ScrollablePane", 100, 10, 200, 150));
-    Window* top = WindowManager::getSingleton().createWindow("MoxieLook/Button");
-    top->setArea(UVector2(cegui_absdim(10), cegui_absdim(10)),
-                 USize(cegui_absdim(80), cegui_absdim(24)));
-    pane.addChild(top);
-    Window* low = WindowManager::getSingleton().createWindow("MoxieLook/Button");
-    low->setArea(UVector2(cegui_absdim(10), cegui_absdim(600)),
-                 USize(cegui_absdim(80), cegui_absdim(24)));
-    pane.addChild(low);
+    Window* top = &moxietest::child(pane, "MoxieLook/Button", 10, 10, 80, 24);
+    Window* low = &moxietest::child(pane, "MoxieLook/Button", 10, 600, 80, 24);
     top->activate();
     press(Key::Tab);
     ASSERT_EQ(focused(), low);

@@ -123,12 +123,7 @@ TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
 {
     Listbox& l = list(1000);
     auto countTexts = [&]
-    {
-        int texts = 0;
-        for (const moxietest::DrawnQuad& q : moxietest::drawnBy(l))
-            texts += q.image == "text";
-        return texts;
-    };
+    { return static_cast<int>(moxietest::allOf(moxietest::drawnBy(l), "text").size()); };
     const float h = l.getListboxItemFromIndex(0)->getPixelSize().d_height;
     const int inView = static_cast<int>(l.getListRenderArea().getHeight() / h) + 1;
     EXPECT_LE(countTexts(), inView + 1);
@@ -136,10 +131,8 @@ TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
     // The hover brush is under the pointer, before and after the wheel moved the items.
     const auto hoverBrushAt = [&]
     {
-        for (const moxietest::DrawnQuad& q : moxietest::drawnBy(l))
-            if (q.image == "ListboxHoverBrush")
-                return q.rect;
-        return Rectf(0, 0, 0, 0);
+        const auto brush = moxietest::find(moxietest::drawnBy(l), "ListboxHoverBrush");
+        return brush ? brush->rect : Rectf(0, 0, 0, 0);
     };
     moxietest::pointerTo(50, 50);
     EXPECT_TRUE(hoverBrushAt().isPointInRect(Vector2f(40, 40)));
@@ -187,24 +180,19 @@ TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
 
     // Keys: up and down in the edit area step through the items; in the open list they
     // move the selection and Return chooses.
-    auto press = [](Key::Scan scan)
-    {
-        context().injectKeyDown(scan);
-        context().injectKeyUp(scan);
-    };
     // Each choice is reported to the host as a click's would be.
     std::vector<String> accepted;
     combo.subscribeEvent(Combobox::EventListSelectionAccepted,
                          [&] { accepted.push_back(combo.getSelectedItem()->getText()); });
     combo.getEditbox()->activate();
-    press(Key::ArrowDown);
+    moxietest::press(Key::ArrowDown);
     EXPECT_EQ(combo.getText(), "Dublin");
-    press(Key::ArrowUp);
+    moxietest::press(Key::ArrowUp);
     EXPECT_EQ(combo.getText(), "Copenhagen");
     combo.showDropList();
-    press(Key::ArrowUp);
-    press(Key::ArrowUp);
-    press(Key::Return);
+    moxietest::press(Key::ArrowUp);
+    moxietest::press(Key::ArrowUp);
+    moxietest::press(Key::Return);
     EXPECT_FALSE(drop.isVisible());
     EXPECT_EQ(combo.getText(), "Amsterdam");
     EXPECT_EQ(accepted, (std::vector<String>{"Dublin", "Copenhagen", "Amsterdam"}));

@@ -28,12 +28,6 @@ PopupMenu& popupOf(MenuItem& owner)
     return popup;
 }
 
-void clickOn(const Window& w)
-{
-    const Vector2f c = moxietest::centreOf(w);
-    moxietest::click(c.d_x, c.d_y);
-}
-
 void pulse()
 {
     moxietest::context().injectTimePulse(0.5f);
@@ -112,7 +106,7 @@ TEST_F(MenuTest, AMenuFromALayoutSizesItsItemsToTheirTexts)
               fileItem.getUnclippedOuterRect().get().right() +
                   static_cast<Menubar*>(loaded)->getItemSpacing());
 
-    clickOn(fileItem);
+    moxietest::clickOn(fileItem);
     auto& menu = static_cast<PopupMenu&>(*loaded->getChild("file/menu"));
     ASSERT_TRUE(menu.isPopupMenuOpen());
     Window& openItem = *menu.getChild("open");
@@ -129,26 +123,23 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     int disabledClicks = 0;
     disabled->subscribeEvent(MenuItem::EventClicked, [&] { ++disabledClicks; });
 
-    clickOn(*file);
+    moxietest::clickOn(*file);
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
     EXPECT_EQ(fileMenu->getUnclippedOuterRect().get().top(),
               file->getUnclippedOuterRect().get().bottom());
     System::getSingleton().renderAllGUIContexts();
 
     // Moving across the bar while a menu is open opens the next one.
-    const Vector2f e = moxietest::centreOf(*edit);
-    moxietest::pointerTo(e.d_x, e.d_y);
+    moxietest::hover(*edit);
     pulse();
     EXPECT_TRUE(editMenu->isPopupMenuOpen());
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
 
     // Back on File (open again by hovering, the bar being active), a sub-menu opens on hover.
-    const Vector2f f = moxietest::centreOf(*file);
-    moxietest::pointerTo(f.d_x, f.d_y);
+    moxietest::hover(*file);
     pulse();
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
-    const Vector2f r = moxietest::centreOf(*recent);
-    moxietest::pointerTo(r.d_x, r.d_y);
+    moxietest::hover(*recent);
     pulse();
     pulse();
     EXPECT_TRUE(recentMenu->isPopupMenuOpen());
@@ -157,34 +148,33 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
               recent->getUnclippedOuterRect().get().right());
 
     // A disabled item cannot be chosen; choosing one fires its click and closes the menus.
-    clickOn(*disabled);
+    moxietest::clickOn(*disabled);
     EXPECT_EQ(disabledClicks, 0);
     EXPECT_TRUE(fileMenu->isPopupMenuOpen());
-    clickOn(*open);
+    moxietest::clickOn(*open);
     EXPECT_EQ(opened, 1);
     pulse();
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
 
     // A click outside closes an open menu.
-    clickOn(*file);
+    moxietest::clickOn(*file);
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
     Window& elsewhere = moxietest::place("MoxieLook/Button", 500, 400, 100, 30);
-    clickOn(elsewhere);
+    moxietest::clickOn(elsewhere);
     pulse();
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
     // So does one on the bare sheet, which changes no window's activation; one in a sub-menu
     // chooses its item.
-    clickOn(*file);
-    const Vector2f rc = moxietest::centreOf(*recent);
-    moxietest::pointerTo(rc.d_x, rc.d_y);
+    moxietest::clickOn(*file);
+    moxietest::hover(*recent);
     pulse();
     pulse();
     ASSERT_TRUE(recentMenu->isPopupMenuOpen());
     int reopened = 0;
     recentMenu->getChildAtIdx(0)->subscribeEvent(MenuItem::EventClicked, [&] { ++reopened; });
-    clickOn(*recentMenu->getChildAtIdx(0));
+    moxietest::clickOn(*recentMenu->getChildAtIdx(0));
     EXPECT_EQ(reopened, 1);
-    clickOn(*file);
+    moxietest::clickOn(*file);
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
     moxietest::click(600, 300);
     pulse();
@@ -207,7 +197,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     item(popupOf(tools), "MoxieLook/PopupMenuItem", "Options");
     once.subscribeEvent(MenuBase::EventPopupClosed,
                         [&once] { WindowManager::getSingleton().destroyWindow(&once); });
-    clickOn(tools);
+    moxietest::clickOn(tools);
     ASSERT_TRUE(tools.getPopupMenu()->isPopupMenuOpen());
     moxietest::click(600, 200);
     EXPECT_FALSE(WindowManager::getSingleton().isAlive(&once));
@@ -218,9 +208,8 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
 
 TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
 {
-    clickOn(*file);
-    const Vector2f o = moxietest::centreOf(*open);
-    moxietest::pointerTo(o.d_x, o.d_y);
+    moxietest::clickOn(*file);
+    moxietest::hover(*open);
     EXPECT_EQ(menuItemStateOf(*open), MenuItemState::Hover);
     auto names = moxietest::imageNames(moxietest::drawnBy(*open));
     EXPECT_EQ(names, (std::vector<std::string>{"MenuItemFocusLeft", "MenuItemFocusMiddle",
@@ -244,8 +233,7 @@ TEST_F(MenuTest, StatesDrawTheirBandsMarksAndArrows)
     int separatorClicks = 0;
     separator.subscribeEvent(MenuItem::EventClicked, [&] { ++separatorClicks; });
     ASSERT_TRUE(fileMenu->isPopupMenuOpen());
-    const Vector2f s = moxietest::centreOf(separator);
-    moxietest::pointerTo(s.d_x, s.d_y);
+    moxietest::hover(separator);
     EXPECT_EQ(menuItemStateOf(separator), MenuItemState::Normal);
     moxietest::leftDown();
     EXPECT_EQ(menuItemStateOf(separator), MenuItemState::Normal);

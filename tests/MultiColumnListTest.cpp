@@ -251,14 +251,7 @@ TEST_F(MultiColumnListTest, TreeColumnsFollowTheirSegments)
 
     // The last text of the file's line is its "Kind" cell: it ends inside that column and
     // moves right as much as the "Size" column widens.
-    auto kindRight = [&]
-    {
-        float right = 0;
-        for (const auto& quad : drawnBy(tree))
-            if (quad.image == "text")
-                right = std::max(right, quad.rect.right());
-        return right;
-    };
+    auto kindRight = [&] { return moxietest::spanOf(drawnBy(tree), "text").right(); };
     const float before = kindRight();
     tree.getListHeader()->setColumnWidth(1, cegui_absdim(130));
     const float after = kindRight();

@@ -261,10 +261,7 @@ TEST_F(NodeItemTest, IconsCounterAndOpenedImage)
     EXPECT_EQ(child.getProperty("NormalIcon"), "");
 
     frame();
-    auto quads = moxietest::drawnBy(*child.GetButton());
-    EXPECT_NE(std::find_if(quads.begin(), quads.end(),
-                           [](const moxietest::DrawnQuad& q) { return q.image == "IconFolder"; }),
-              quads.end());
+    EXPECT_TRUE(moxietest::find(moxietest::drawnBy(*child.GetButton()), "IconFolder"));
     moxietest::pointerTo(child.GetButton()->getUnclippedOuterRect().get().left() + 4,
                          child.GetButton()->getUnclippedOuterRect().get().top() + 4);
     frame();

@@ -39,10 +39,6 @@ Rectf local(const Window& window)
     return Rectf(outer.d_min - origin, outer.getSize());
 }
 
-bool contains(const std::vector<std::string>& names, const std::string& name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 } // namespace
 
 TEST(ScrollbarGeometry, PlacesTheThumbForDocumentsPagesAndPositions)
@@ -131,8 +127,7 @@ TEST(Scrollbar, DraggingTheThumbAndClickingTrackAndButtonsMoveThePosition)
     EXPECT_FLOAT_EQ(horz.getScrollPosition(), 40);
 
     // The arrow buttons move a step (5).
-    const Vector2f increase = moxietest::centreOf(*horz.getIncreaseButton());
-    moxietest::click(increase.d_x, increase.d_y);
+    moxietest::clickOn(*horz.getIncreaseButton());
     EXPECT_FLOAT_EQ(horz.getScrollPosition(), 45);
 
     // Dragging the thumb by 42 pixels moves the position by 42 / (134.4 / 80) = 25, give or
@@ -147,10 +142,7 @@ TEST(Scrollbar, DraggingTheThumbAndClickingTrackAndButtonsMoveThePosition)
 
     // Past the end the thumb stops at the end of its track.
     const Vector2f again = moxietest::centreOf(*horz.getThumb());
-    moxietest::pointerTo(again.d_x, again.d_y);
-    moxietest::leftDown();
-    moxietest::pointerTo(again.d_x + 300, again.d_y);
-    moxietest::leftUp();
+    moxietest::drag(again, again + Vector2f(300, 0));
     EXPECT_NEAR(horz.getScrollPosition(), 80, 0.05f);
 }
 
@@ -167,11 +159,11 @@ TEST(Scrollbar, DrawsBackgroundThenFrameAndThumbsShowTheirGripperWhenLongEnough)
     Window& wide = moxietest::place("MoxieLook/HorizontalScrollbarThumb", 10, 50, 16, 14);
     Window& narrow = moxietest::place("MoxieLook/HorizontalScrollbarThumb", 10, 80, 15, 14);
     const auto wideQuads = drawnBy(wide);
-    EXPECT_TRUE(contains(imageNames(wideQuads), "HorzScrollbarGrip"));
+    EXPECT_TRUE(moxietest::find(wideQuads, "HorzScrollbarGrip"));
     EXPECT_EQ(wideQuads.back().rect, Rectf(4, 3, 12, 11));
-    EXPECT_FALSE(contains(imageNames(drawnBy(narrow)), "HorzScrollbarGrip"));
+    EXPECT_FALSE(moxietest::find(drawnBy(narrow), "HorzScrollbarGrip"));
     Window& tall = moxietest::place("MoxieLook/VerticalScrollbarThumb", 60, 50, 14, 16);
-    EXPECT_TRUE(contains(imageNames(drawnBy(tall)), "VertScrollbarGrip"));
+    EXPECT_TRUE(moxietest::find(drawnBy(tall), "VertScrollbarGrip"));
 }
 
 TEST(Scrollbar, ThumbStatesUseTheirFramesAndColours)
@@ -215,25 +207,19 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     // Spacing: trunc(189 * 0.05 * 5 + 0.5) = 47; 200 / 47 -> 4 spaces, 5 ticks, from x 6.
     EXPECT_FLOAT_EQ(slider.ticks().spacing, 47);
     EXPECT_EQ(slider.ticks().count, 5);
-    std::vector<float> tickX;
-    for (const auto& quad : drawnBy(slider))
-        if (quad.image == "SliderTick")
-        {
-            tickX.push_back(quad.rect.left());
-            EXPECT_FLOAT_EQ(quad.rect.top(), 6);
-        }
-    EXPECT_EQ(tickX, (std::vector<float>{6, 53, 100, 147, 194}));
-    EXPECT_EQ(imageNames(drawnBy(slider))[0], "SliderTrackLeft");
-
-    // Partly clipped, only the ticks in view are drawn; uncovered, the rest follow.
     auto tickLefts = [&]
     {
         std::vector<float> lefts;
-        for (const auto& quad : drawnBy(slider))
-            if (quad.image == "SliderTick")
-                lefts.push_back(quad.rect.left());
+        for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+            lefts.push_back(quad.rect.left());
         return lefts;
     };
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+        EXPECT_FLOAT_EQ(quad.rect.top(), 6);
+    EXPECT_EQ(imageNames(drawnBy(slider))[0], "SliderTrackLeft");
+
+    // Partly clipped, only the ticks in view are drawn; uncovered, the rest follow.
     Window& holder = moxietest::place("DefaultWindow", 0, 0, 90, 100);
     holder.addChild(&slider); // the slider at (10, 10) shows its left 80 pixels
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53}));
@@ -244,7 +230,7 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     slider.setClickStep(0.001f);
     slider.setTickFrequency(1);
     EXPECT_EQ(slider.ticks().count, 0);
-    EXPECT_FALSE(contains(imageNames(drawnBy(slider)), "SliderTick"));
+    EXPECT_FALSE(moxietest::find(drawnBy(slider), "SliderTick"));
     slider.setProperty("TickFrequency", "0");
     EXPECT_EQ(slider.ticks().count, 0);
 
@@ -265,9 +251,8 @@ TEST(Slider, AReversedSliderGrowsFromTheRightInPlacingClickingDraggingAndTicks)
 
     // The ticks run from the thumb's centre at 0, now the right.
     std::vector<float> tickX;
-    for (const auto& quad : drawnBy(slider))
-        if (quad.image == "SliderTick")
-            tickX.push_back(quad.rect.left());
+    for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+        tickX.push_back(quad.rect.left());
     EXPECT_EQ(tickX, (std::vector<float>{7, 54, 101, 148, 195}));
 
     // Left of the thumb is more.
@@ -275,10 +260,7 @@ TEST(Slider, AReversedSliderGrowsFromTheRightInPlacingClickingDraggingAndTicks)
     EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.3f);
     // Dragging the thumb to the right end brings the value to 0.
     const Vector2f grip = moxietest::centreOf(*slider.getThumb());
-    moxietest::pointerTo(grip.d_x, grip.d_y);
-    moxietest::leftDown();
-    moxietest::pointerTo(grip.d_x + 300, grip.d_y);
-    moxietest::leftUp();
+    moxietest::drag(grip, grip + Vector2f(300, 0));
     EXPECT_FLOAT_EQ(slider.getCurrentValue(), 0.0f);
     EXPECT_FLOAT_EQ(local(*slider.getThumb()).left(), 189);
 }
@@ -324,11 +306,8 @@ TEST(Scrollbar, ArrowButtonsShowTheirArrowCentredAndStayOnTop)
     {
         const std::string arrow = arrowName;
         EXPECT_TRUE(button->isAlwaysOnTop());
-        const std::vector<moxietest::DrawnQuad> quads = drawnBy(*button);
-        ASSERT_TRUE(contains(imageNames(quads), arrow)) << arrow;
-        const auto at =
-            std::find_if(quads.begin(), quads.end(),
-                         [&](const moxietest::DrawnQuad& q) { return q.image == arrow; });
+        const auto at = moxietest::find(drawnBy(*button), arrow);
+        ASSERT_TRUE(at) << arrow;
         // A 16-pixel arrow centred on a 14-pixel button.
         EXPECT_EQ(at->rect, Rectf(-1, -1, 15, 15)) << arrow;
     }

@@ -36,10 +36,7 @@ protected:
     static void click(float x, float y) { clickAndRelease(x, y, x, y); }
     static void clickAndRelease(float x, float y, float upX, float upY)
     {
-        moxietest::pointerTo(x, y);
-        moxietest::leftDown();
-        moxietest::pointerTo(upX, upY);
-        moxietest::leftUp();
+        moxietest::drag(Vector2f(x, y), Vector2f(upX, upY));
     }
 
     template <typename T>

@@ -34,13 +34,14 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <optional>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
 using moxietest::argb;
 using moxietest::drawnBy;
 using moxietest::DrawnQuad;
+using moxietest::find;
+using moxietest::spanOf;
 
 namespace
 {
@@ -50,27 +51,6 @@ protected:
     void SetUp() override { moxietest::freshSheet(); }
 };
 
-// The first quad of `image`, a copy: the drawing it came from may be a temporary.
-std::optional<DrawnQuad> find(const std::vector<DrawnQuad>& quads, const std::string& image)
-{
-    const auto it = std::find_if(quads.begin(), quads.end(),
-                                 [&](const DrawnQuad& quad) { return quad.image == image; });
-    return it == quads.end() ? std::nullopt : std::optional<DrawnQuad>(*it);
-}
-// The rectangle around every quad whose image name starts with `prefix` ("text": the glyphs).
-Rectf spanOf(const std::vector<DrawnQuad>& quads, const std::string& prefix)
-{
-    Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
-    for (const DrawnQuad& quad : quads)
-        if (quad.image.rfind(prefix, 0) == 0)
-        {
-            span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
-            span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
-            span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
-            span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
-        }
-    return span;
-}
 } // namespace
 
 TEST_F(StockSkinTypesTest, LabelsAreDefaultWindowsTakingTheStockFormattingNames)
@@ -106,9 +86,7 @@ TEST_F(StockSkinTypesTest, StaticsDrawTheirFrameAndBackgroundAndHoldChildrenInsi
     EXPECT_EQ(quads[0].image, "StaticFrameFill");
     EXPECT_EQ(quads[1].image, "StaticFrameTopLeft");
     const Rectf fill = quads[0].rect;
-    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
-    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
-    frame.addChild(child);
+    Window* child = &moxietest::child(frame, "MoxieLook/Label", 0, 0, 20, 10);
     EXPECT_EQ(child->getUnclippedOuterRect().get().d_min, Vector2f(10, 10) + fill.d_min);
 
     frame.setProperty("BackgroundColours", "tl:FFFF0000 tr:FFFF0000 bl:FF0000FF br:FF0000FF");
@@ -125,9 +103,7 @@ TEST_F(StockSkinTypesTest, StaticsDrawTheirFrameAndBackgroundAndHoldChildrenInsi
 TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildrenBelowIt)
 {
     auto& box = static_cast<MXGroupBox&>(moxietest::place("MoxieLook/GroupBox", 10, 10, 200, 100));
-    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
-    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
-    box.addChild(child);
+    Window* child = &moxietest::child(box, "MoxieLook/Label", 0, 0, 20, 10);
     const float uncaptioned = child->getUnclippedOuterRect().get().top();
     box.setText("Sound");
     const Rectf caption = box.captionArea();
@@ -155,19 +131,6 @@ TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildre
     }
     EXPECT_TRUE(textDrawn);
     EXPECT_TRUE(find(quads, "StaticFrameBottom"));
-}
-
-TEST_F(StockSkinTypesTest, TheTabControlsPanesAsTypesOfTheirOwn)
-{
-    Window& pane = moxietest::place("MoxieLook/TabContentPane", 10, 10, 200, 100);
-    const auto pieces = moxietest::imageNames(drawnBy(pane));
-    EXPECT_EQ(pieces,
-              (std::vector<std::string>{"TabPaneLeft", "TabPaneLowerLeft", "TabPaneMiddle",
-                                        "TabPaneLower", "TabPaneRight", "TabPaneLowerRight"}));
-    Window& strip = moxietest::place("MoxieLook/TabButtonPane", 10, 150, 200, 26);
-    const auto line = drawnBy(strip);
-    ASSERT_EQ(line.size(), 1u);
-    EXPECT_EQ(line[0].rect, Rectf(0, 24, 200, 26)); // the line the tabs stand on
 }
 
 TEST_F(StockSkinTypesTest, ImageIconAndSystemButtonsDrawTheirPictures)
@@ -216,8 +179,7 @@ TEST_F(StockSkinTypesTest, TheComboEditPartAndTheBroadBarWorkAsTheirOwnTypes)
 {
     auto& edit = static_cast<Editbox&>(moxietest::place("MoxieLook/ComboEditbox", 10, 10, 180, 26));
     moxietest::click(100, 20);
-    for (char c : std::string("abc"))
-        moxietest::context().injectChar(static_cast<utf32>(c));
+    moxietest::type("abc");
     EXPECT_EQ(edit.getText(), "abc");
     EXPECT_EQ(edit.getCaretIndex(), 3u);
 
@@ -259,21 +221,15 @@ TEST_F(StockSkinTypesTest, SegmentedBarsLightTheirBlocksFromTheStartEnd)
     meter.setProgress(1.0f);
     const auto quads = drawnBy(meter);
     std::vector<argb_t> blockColours;
-    for (const DrawnQuad& quad : quads)
-        if (quad.image == "MeterSegment")
-            blockColours.push_back(argb(quad.colours.d_top_left));
+    for (const DrawnQuad& quad : moxietest::allOf(quads, "MeterSegment"))
+        blockColours.push_back(argb(quad.colours.d_top_left));
     ASSERT_EQ(blockColours.size(), meter.segments().size());
     EXPECT_EQ(blockColours.front(), 0xFF2E9B44u);
     EXPECT_EQ(blockColours.back(), 0xFFD9443Cu);
     EXPECT_NE(std::find(blockColours.begin(), blockColours.end(), 0xFFF5A44Au), blockColours.end());
     meter.setProgress(0.0f);
-    for (const DrawnQuad& quad : drawnBy(meter))
-    {
-        if (quad.image == "MeterSegment")
-        {
-            EXPECT_EQ(argb(quad.colours.d_top_left), 0xFFC5CED9u);
-        }
-    }
+    for (const DrawnQuad& quad : moxietest::allOf(drawnBy(meter), "MeterSegment"))
+        EXPECT_EQ(argb(quad.colours.d_top_left), 0xFFC5CED9u);
 }
 
 TEST_F(StockSkinTypesTest, ASegmentedBarFarLongerThanTheDisplayDrawsTheBlocksInView)
@@ -322,14 +278,12 @@ TEST_F(StockSkinTypesTest, OneMenuItemTypeServesBarsAndPopupsAlike)
     drawnBy(bar);
     EXPECT_EQ(file->getPixelSize(), edit->getPixelSize());
     EXPECT_EQ(file->getAutoPopupTimeout(), 0.0f); // a bar opens by click
-    const Vector2f at = moxietest::centreOf(*file);
-    moxietest::click(at.d_x, at.d_y);
+    moxietest::clickOn(*file);
     ASSERT_TRUE(popup->isVisible());
     drawnBy(*popup);
     EXPECT_EQ(open->getPixelSize(), twin->getPixelSize());
     EXPECT_GT(open->getAutoPopupTimeout(), 0.0f);
-    const Vector2f item = moxietest::centreOf(*open);
-    moxietest::click(item.d_x, item.d_y);
+    moxietest::clickOn(*open);
     EXPECT_EQ(clicks, 1);
     EXPECT_FALSE(popup->isVisible());
 }
@@ -380,8 +334,7 @@ TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
     EXPECT_FALSE(third->isSelected());
     // The item the pointer rests on shows the hover brush; the one it left, none.
     ItemEntry* below = list.getItemFromIndex(list.getItemIndex(static_cast<ItemEntry*>(under)) + 1);
-    const Vector2f over = moxietest::centreOf(*below);
-    moxietest::pointerTo(over.d_x, over.d_y);
+    moxietest::hover(*below);
     EXPECT_EQ(moxietest::imageNames(drawnBy(*below)).front(), "ListboxHoverBrush");
     EXPECT_EQ(moxietest::imageNames(drawnBy(*under)).front(), "ListboxSelectionBrush");
 }
@@ -683,14 +636,7 @@ TEST_F(StockSkinTypesTest, ListItemBrushesAndTheGroupCaptionBackdropFollowTheSto
     Window& box = moxietest::place("MoxieLook/GroupBox", 300, 150, 200, 100);
     box.setText("Sound");
     // No backdrop behind the caption until a layout asks for one; then it lies under the text.
-    auto fills = [&box]
-    {
-        std::vector<DrawnQuad> found;
-        for (const DrawnQuad& quad : drawnBy(box))
-            if (quad.image == "StaticFrameFill")
-                found.push_back(quad);
-        return found;
-    };
+    auto fills = [&box] { return moxietest::allOf(drawnBy(box), "StaticFrameFill"); };
     EXPECT_TRUE(fills().empty()); // a group box has no background of its own
     box.setProperty("TextBackground", "FF203040");
     ASSERT_EQ(fills().size(), 1u);
@@ -728,7 +674,7 @@ TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
     file->setProperty("OpenedColour", "FF00FF00");
     open->setProperty("HoverColour", "FFFF0000");
     open->setProperty("DisabledTextColour", "FF808000");
-    moxietest::click(moxietest::centreOf(*file).d_x, moxietest::centreOf(*file).d_y);
+    moxietest::clickOn(*file);
     ASSERT_TRUE(file->isOpened());
     EXPECT_EQ(argb(find(drawnBy(*file), "MenuItemOpenMiddle")->colours.d_top_left), 0xFF00FF00u);
     const Vector2f over = moxietest::centreOf(*open);
@@ -845,8 +791,7 @@ TEST_F(StockSkinTypesTest, AComboBoxPassesItsStockPropertiesToItsParts)
     EXPECT_FALSE(combo.isPropertyDefault("DropDownButtonHoverImage"));
     PushButton* button = combo.getPushButton();
     EXPECT_TRUE(find(drawnBy(*button), "IconStar"));
-    const Vector2f over = moxietest::centreOf(*button);
-    moxietest::pointerTo(over.d_x, over.d_y);
+    moxietest::hover(*button);
     const auto hovered = find(drawnBy(*button), "IconFolder");
     ASSERT_TRUE(hovered);
     EXPECT_EQ(hovered->rect.getSize(), button->getPixelSize());
@@ -917,12 +862,17 @@ TEST_F(StockSkinTypesTest, AnImageButtonTintsAndPlacesItsPicturesAsTheStockSkins
 
 TEST_F(StockSkinTypesTest, TabPanesDrawTheEdgesTheTabControlAsksFor)
 {
-    // As CEGUI's tab control sets them for tabs below the content: top edge on, bottom off.
     Window& pane = moxietest::place("MoxieLook/TabContentPane", 10, 10, 200, 100);
-    Window* child = WindowManager::getSingleton().createWindow("MoxieLook/Label");
-    child->setArea(URect(cegui_absdim(0), cegui_absdim(0), cegui_absdim(20), cegui_absdim(10)));
-    pane.addChild(child);
-    EXPECT_EQ(pane.getProperty("EnableTop"), "0");
+    Window* child = &moxietest::child(pane, "MoxieLook/Label", 0, 0, 20, 10);
+    EXPECT_EQ(moxietest::imageNames(drawnBy(pane)),
+              (std::vector<std::string>{"TabPaneLeft", "TabPaneLowerLeft", "TabPaneMiddle",
+                                        "TabPaneLower", "TabPaneRight", "TabPaneLowerRight"}));
+    Window& strip = moxietest::place("MoxieLook/TabButtonPane", 10, 150, 200, 26);
+    auto line = drawnBy(strip);
+    ASSERT_EQ(line.size(), 1u);
+    EXPECT_EQ(line[0].rect, Rectf(0, 24, 200, 26)); // the line the tabs stand on
+
+    // As CEGUI's tab control sets them for tabs below the content: top edge on, bottom off.
     const float top = child->getUnclippedOuterRect().get().top();
     pane.setProperty("EnableTop", "1");
     pane.setProperty("EnableBottom", "0");
@@ -935,10 +885,9 @@ TEST_F(StockSkinTypesTest, TabPanesDrawTheEdgesTheTabControlAsksFor)
     EXPECT_EQ(quads[2].rect.bottom(), 100);          // the middle reaches the bottom
     EXPECT_EQ(child->getUnclippedOuterRect().get().top(), top + row); // below the new edge
 
-    Window& strip = moxietest::place("MoxieLook/TabButtonPane", 10, 150, 200, 26);
     strip.setProperty("EnableTop", "1");
     strip.setProperty("EnableBottom", "0");
-    const auto line = drawnBy(strip);
+    line = drawnBy(strip);
     ASSERT_EQ(line.size(), 1u);
     EXPECT_EQ(line[0].rect, Rectf(0, 0, 200, 2));
 }
@@ -993,14 +942,7 @@ TEST_F(StockSkinTypesTest, AnEditBoxStandsItsTextWhereTheStockFormattingSays)
     auto& box = static_cast<MXEditbox&>(moxietest::place("MoxieLook/Editbox", 10, 10, 240, 30));
     box.setText("42");
     box.setProperty("TextFormatting", "RightAligned");
-    auto lastGlyphRight = [&box]
-    {
-        float right = 0;
-        for (const DrawnQuad& quad : drawnBy(box))
-            if (quad.image == "text")
-                right = std::max(right, quad.rect.right());
-        return right;
-    };
+    auto lastGlyphRight = [&box] { return spanOf(drawnBy(box), "text").right(); };
     const Rectf area = box.textArea();
     EXPECT_GT(lastGlyphRight(), area.right() - 12);
 
@@ -1033,16 +975,9 @@ TEST_F(StockSkinTypesTest, AStaticImageTakesCeguisFormattingNames)
     holder.setProperty("HorzFormatting", "CentreAligned");
     holder.setProperty("VertFormatting", "CentreAligned");
     EXPECT_EQ(holder.getProperty("HorzFormatting"), "CentreAligned");
-    auto stars = [&holder]
-    {
-        std::vector<Rectf> rects;
-        for (const DrawnQuad& quad : drawnBy(holder))
-            if (quad.image == "IconStar")
-                rects.push_back(quad.rect);
-        return rects;
-    };
+    auto stars = [&holder] { return moxietest::allOf(drawnBy(holder), "IconStar"); };
     ASSERT_EQ(stars().size(), 1u);
-    const Rectf centred = stars()[0];
+    const Rectf centred = stars()[0].rect;
     EXPECT_NEAR(centred.left() + centred.right(), 200, 1.0f);
     EXPECT_NEAR(centred.top() + centred.bottom(), 100, 1.0f);
     EXPECT_LT(centred.getWidth(), 200);
@@ -1052,7 +987,7 @@ TEST_F(StockSkinTypesTest, AStaticImageTakesCeguisFormattingNames)
     holder.setProperty("HorzFormatting", "Stretched");
     holder.setProperty("VertFormatting", "Stretched");
     EXPECT_EQ(stars().size(), 1u);
-    EXPECT_EQ(stars()[0].getWidth(), 200);
+    EXPECT_EQ(stars()[0].rect.getWidth(), 200);
     EXPECT_EQ(holder.getProperty("VertFormatting"), "Stretched");
 }
 
@@ -1090,8 +1025,7 @@ TEST_F(StockSkinTypesTest, ButtonsShowEachStatesPicture)
         button.setProperty("PushedImage", "MoxieLook/IconFolder");
         button.setProperty("DisabledImage", "MoxieLook/IconDocument");
         EXPECT_TRUE(find(drawnBy(button), "IconStar"));
-        const Vector2f over = moxietest::centreOf(button);
-        moxietest::pointerTo(over.d_x, over.d_y);
+        moxietest::hover(button);
         EXPECT_TRUE(find(drawnBy(button), "IconHeart"));
         moxietest::leftDown();
         EXPECT_TRUE(find(drawnBy(button), "IconFolder"));
@@ -1152,8 +1086,11 @@ void show(Window& window, Shown state)
 // Each colour is written in the four-corner form the stock skins use.
 TEST_F(StockSkinTypesTest, EveryStockTintReachesWhatItsStateDraws)
 {
-    const std::vector<std::pair<const char*, const char*>> framed = {{"FrameEnabled", "True"},
-                                                                     {"BackgroundEnabled", "True"}};
+    using SetUp = std::vector<std::pair<const char*, const char*>>;
+    const SetUp framed = {{"FrameEnabled", "True"}, {"BackgroundEnabled", "True"}};
+    const SetUp partly = {{"CurrentProgress", "0.6"}}, shown = {{"Visible", "True"}};
+    const SetUp readOnly = {{"ReadOnly", "True"}}, icon = {{"IconImage", "MoxieLook/IconStar"}};
+    const SetUp star = {{"NormalImage", "MoxieLook/IconStar"}};
     const Tint tints[] = {
         {"MoxieLook/Label", "NormalTextColour", Shown::AtRest, "text"},
         {"MoxieLook/Label", "DisabledTextColour", Shown::Disabled, "text"},
@@ -1183,55 +1120,20 @@ TEST_F(StockSkinTypesTest, EveryStockTintReachesWhatItsStateDraws)
         {"MoxieLook/StaticImage", "FrameColours", Shown::AtRest, "StaticFrameTopLeft", framed},
         {"MoxieLook/StaticImage", "BackgroundColours", Shown::AtRest, "StaticFrameFill", framed},
         {"MoxieLook/Tree", "FrameColours", Shown::AtRest, "StaticFrameListTopLeft"},
-        {"MoxieLook/ProgressBar",
-         "EnabledColour",
-         Shown::AtRest,
-         "ProgressBarLitMiddle",
-         {{"CurrentProgress", "0.6"}}},
-        {"MoxieLook/ProgressBar",
-         "DisabledColour",
-         Shown::Disabled,
-         "ProgressBarLitMiddle",
-         {{"CurrentProgress", "0.6"}}},
+        {"MoxieLook/ProgressBar", "EnabledColour", Shown::AtRest, "ProgressBarLitMiddle", partly},
+        {"MoxieLook/ProgressBar", "DisabledColour", Shown::Disabled, "ProgressBarLitMiddle",
+         partly},
         {"MoxieLook/Menubar", "BackgroundColours", Shown::AtRest, "MenubarBackground"},
-        {"MoxieLook/PopupMenu",
-         "BackgroundColours",
-         Shown::AtRest,
-         "PopupMenuFill",
-         {{"Visible", "True"}}},
+        {"MoxieLook/PopupMenu", "BackgroundColours", Shown::AtRest, "PopupMenuFill", shown},
         {"MoxieLook/FrameWindow", "ClientAreaColour", Shown::AtRest, "Background"},
         {"MoxieLook/Editbox", "NormalTextColour", Shown::AtRest, "text"},
-        {"MoxieLook/Editbox",
-         "ReadOnlyBGColour",
-         Shown::AtRest,
-         "EditboxFillReadOnly",
-         {{"ReadOnly", "True"}}},
+        {"MoxieLook/Editbox", "ReadOnlyBGColour", Shown::AtRest, "EditboxFillReadOnly", readOnly},
         {"MoxieLook/MultiLineEditbox", "NormalTextColour", Shown::AtRest, "text"},
-        {"MoxieLook/ImageButton",
-         "NormalImageColour",
-         Shown::AtRest,
-         "IconStar",
-         {{"NormalImage", "MoxieLook/IconStar"}}},
-        {"MoxieLook/ImageButton",
-         "HoverImageColour",
-         Shown::Hovered,
-         "IconStar",
-         {{"NormalImage", "MoxieLook/IconStar"}}},
-        {"MoxieLook/ImageButton",
-         "PushedImageColour",
-         Shown::Held,
-         "IconStar",
-         {{"NormalImage", "MoxieLook/IconStar"}}},
-        {"MoxieLook/ImageButton",
-         "DisabledImageColour",
-         Shown::Disabled,
-         "IconStar",
-         {{"NormalImage", "MoxieLook/IconStar"}}},
-        {"MoxieLook/IconButton",
-         "IconColours",
-         Shown::AtRest,
-         "IconStar",
-         {{"IconImage", "MoxieLook/IconStar"}}},
+        {"MoxieLook/ImageButton", "NormalImageColour", Shown::AtRest, "IconStar", star},
+        {"MoxieLook/ImageButton", "HoverImageColour", Shown::Hovered, "IconStar", star},
+        {"MoxieLook/ImageButton", "PushedImageColour", Shown::Held, "IconStar", star},
+        {"MoxieLook/ImageButton", "DisabledImageColour", Shown::Disabled, "IconStar", star},
+        {"MoxieLook/IconButton", "IconColours", Shown::AtRest, "IconStar", icon},
     };
     argb_t colour = 0x80102030; // half-transparent: the colour's own alpha must reach the drawing
     for (const Tint& tint : tints)

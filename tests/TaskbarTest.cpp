@@ -238,20 +238,16 @@ TEST_F(TaskbarTest, KeysWalkTheButtonsAndClickThemAsTheMouseDoes)
 {
     windows[2]->activate();
     ASSERT_TRUE(CEGUI::MoxieLook::focusWidget(button(2)));
-    auto press = [](Key::Scan key)
-    {
-        moxietest::context().injectKeyDown(key);
-        moxietest::context().injectKeyUp(key);
-    };
-    press(Key::Space); // the active window's button: minimises it
+    moxietest::press(Key::Space); // the active window's button: minimises it
     EXPECT_TRUE(windows[2]->isMinimized());
-    press(Key::Space); // and restores it
+    moxietest::press(Key::Space); // and restores it
     EXPECT_FALSE(windows[2]->isMinimized());
     // The arrows go along the bar; Space on another window's button activates that window.
     CEGUI::MoxieLook::focusWidget(button(2));
     const float x2 = button(2).getUnclippedOuterRect().get().left();
-    press(x2 > button(1).getUnclippedOuterRect().get().left() ? Key::ArrowLeft : Key::ArrowRight);
+    moxietest::press(x2 > button(1).getUnclippedOuterRect().get().left() ? Key::ArrowLeft
+                                                                         : Key::ArrowRight);
     ASSERT_EQ(CEGUI::MoxieLook::focusedWidget(moxietest::context()), &button(1));
-    press(Key::Space);
+    moxietest::press(Key::Space);
     EXPECT_TRUE(windows[1]->isActive());
 }

@@ -164,9 +164,7 @@ TEST_F(TooltipTest, ForcedShowingAndHidingFollowTheFadeStates)
     EXPECT_EQ(tip->getText(), "Second");
     context().injectTimePulse(0.05f);
     EXPECT_EQ(tip->getState(), TooltipEx::FadingIn); // it has a text to show
-    const auto drawn = drawnBy(*tip);
-    EXPECT_TRUE(std::any_of(drawn.begin(), drawn.end(),
-                            [](const moxietest::DrawnQuad& q) { return q.image == "text"; }));
+    EXPECT_TRUE(moxietest::find(drawnBy(*tip), "text"));
     tip->forceDeactivaction();
     context().injectTimePulse(0.5f);
     EXPECT_EQ(tip->getState(), TooltipEx::Inactive);

@@ -236,10 +236,8 @@ TEST_F(TreeViewTest, HoverFollowsThePointerAndSetsTheTooltip)
     moxietest::pointerTo(at.d_x, at.d_y);
     EXPECT_TRUE(leaf->IsHovered());
     EXPECT_EQ(tree->getTooltipText(), "Leaf");
-    const auto quads = drawnBy(*tree);
-    const auto text = std::find_if(quads.rbegin(), quads.rend(),
-                                   [](const moxietest::DrawnQuad& q) { return q.image == "text"; });
-    EXPECT_EQ(moxietest::argb(text->colours.d_top_left), 0xFFFF00FFu); // hover leaf colour
+    const auto texts = moxietest::allOf(drawnBy(*tree), "text");
+    EXPECT_EQ(moxietest::argb(texts.back().colours.d_top_left), 0xFFFF00FFu); // hover leaf colour
 
     moxietest::pointerTo(250, 150); // empty space in the tree
     EXPECT_FALSE(leaf->IsHovered());

@@ -154,6 +154,36 @@ std::vector<std::string> imageNames(const std::vector<DrawnQuad>& quads)
     return names;
 }
 
+std::optional<DrawnQuad> find(const std::vector<DrawnQuad>& quads, const std::string& image)
+{
+    const auto it = std::find_if(quads.begin(), quads.end(),
+                                 [&](const DrawnQuad& quad) { return quad.image == image; });
+    return it == quads.end() ? std::nullopt : std::optional<DrawnQuad>(*it);
+}
+
+std::vector<DrawnQuad> allOf(const std::vector<DrawnQuad>& quads, const std::string& image)
+{
+    std::vector<DrawnQuad> found;
+    for (const DrawnQuad& quad : quads)
+        if (quad.image == image)
+            found.push_back(quad);
+    return found;
+}
+
+CEGUI::Rectf spanOf(const std::vector<DrawnQuad>& quads, const std::string& prefix)
+{
+    CEGUI::Rectf span(1e9f, 1e9f, -1e9f, -1e9f);
+    for (const DrawnQuad& quad : quads)
+        if (quad.image.rfind(prefix, 0) == 0)
+        {
+            span.d_min.d_x = std::min(span.d_min.d_x, quad.rect.left());
+            span.d_min.d_y = std::min(span.d_min.d_y, quad.rect.top());
+            span.d_max.d_x = std::max(span.d_max.d_x, quad.rect.right());
+            span.d_max.d_y = std::max(span.d_max.d_y, quad.rect.bottom());
+        }
+    return span;
+}
+
 CEGUI::argb_t argb(const CEGUI::Colour& colour)
 {
     return colour.getARGB();

@@ -8,6 +8,7 @@
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Rect.h>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,13 @@ std::vector<DrawnQuad> drawnBy(CEGUI::Window& window);
 
 //! Just the image names, in drawing order.
 std::vector<std::string> imageNames(const std::vector<DrawnQuad>& quads);
+
+//! The first quad of `image`, a copy: the drawing it came from may be a temporary.
+std::optional<DrawnQuad> find(const std::vector<DrawnQuad>& quads, const std::string& image);
+//! Every quad of `image`, in drawing order.
+std::vector<DrawnQuad> allOf(const std::vector<DrawnQuad>& quads, const std::string& image);
+//! The rectangle around every quad whose image name starts with `prefix` ("text": the glyphs).
+CEGUI::Rectf spanOf(const std::vector<DrawnQuad>& quads, const std::string& prefix);
 
 //! Integer ARGB of a colour, for readable comparisons.
 CEGUI::argb_t argb(const CEGUI::Colour& colour);

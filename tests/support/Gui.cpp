@@ -100,13 +100,19 @@ CEGUI::Window& freshSheet()
     return *s_sheet;
 }
 
-CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, float height)
+CEGUI::Window& child(CEGUI::Window& parent, const CEGUI::String& type, float x, float y,
+                     float width, float height)
 {
     CEGUI::Window* window = CEGUI::WindowManager::getSingleton().createWindow(type);
     window->setPosition(CEGUI::UVector2(CEGUI::UDim(0, x), CEGUI::UDim(0, y)));
     window->setSize(CEGUI::USize(CEGUI::UDim(0, width), CEGUI::UDim(0, height)));
-    s_sheet->addChild(window);
+    parent.addChild(window);
     return *window;
+}
+
+CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, float height)
+{
+    return child(*s_sheet, type, x, y, width, height);
 }
 
 void pointerTo(float x, float y)
@@ -138,6 +144,26 @@ void click(float x, float y)
     leftUp();
 }
 
+void clickOn(const CEGUI::Window& window)
+{
+    const CEGUI::Vector2f at = centreOf(window);
+    click(at.d_x, at.d_y);
+}
+
+void hover(const CEGUI::Window& window)
+{
+    const CEGUI::Vector2f at = centreOf(window);
+    pointerTo(at.d_x, at.d_y);
+}
+
+void drag(const CEGUI::Vector2f& from, const CEGUI::Vector2f& to)
+{
+    pointerTo(from.d_x, from.d_y);
+    leftDown();
+    pointerTo(to.d_x, to.d_y);
+    leftUp();
+}
+
 void doubleClick(float x, float y)
 {
     CEGUI::GUIContext& gui = context();
@@ -161,6 +187,27 @@ CEGUI::Vector2f centreOf(const CEGUI::Window& window)
     const CEGUI::Rectf& rect = window.getUnclippedOuterRect().get();
     return CEGUI::Vector2f((rect.left() + rect.right()) * 0.5f,
                            (rect.top() + rect.bottom()) * 0.5f);
+}
+
+void press(CEGUI::Key::Scan key, bool shift, bool control)
+{
+    CEGUI::GUIContext& gui = context();
+    if (shift)
+        gui.injectKeyDown(CEGUI::Key::LeftShift);
+    if (control)
+        gui.injectKeyDown(CEGUI::Key::LeftControl);
+    gui.injectKeyDown(key);
+    gui.injectKeyUp(key);
+    if (control)
+        gui.injectKeyUp(CEGUI::Key::LeftControl);
+    if (shift)
+        gui.injectKeyUp(CEGUI::Key::LeftShift);
+}
+
+void type(const std::string& text)
+{
+    for (char c : text)
+        context().injectChar(static_cast<CEGUI::utf32>(static_cast<unsigned char>(c)));
 }
 
 } // namespace moxietest
