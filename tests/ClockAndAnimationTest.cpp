@@ -115,7 +115,6 @@ TEST_F(ClockAndAnimationTest, FrequencyZeroStopsAndANegativeOneStepsEveryPulse)
     AnimatedStaticImage& image = animation(3);
     EXPECT_EQ(image.getProperty("FrameFrequency"), "25");
     image.setProperty("FrameFrequency", "0");
-    EXPECT_EQ(image.getProperty("FrameFrequency"), "0");
     pulse(1000.0f);
     EXPECT_EQ(image.getImage(), nullptr);
 

@@ -344,7 +344,6 @@ TEST_F(TreeViewTest, PropertiesTheirDefaultsAndTheTitleFontGetter)
 {
     EXPECT_EQ(tree->getProperty("PixelIndent"), "15");
     EXPECT_EQ(tree->getProperty("NormalTitleTextColour"), "FFFFFFFF");
-    EXPECT_EQ(tree->getProperty("HoverLeafTextColour"), "FFFF00FF");
     EXPECT_EQ(tree->getProperty("SelectedLeafTextColour"), "FFFFFF00");
     EXPECT_EQ(tree->getPropertyInstance("SelectedTitleTextColour")->getDefault(tree), "FFFFFF00");
     tree->setProperty("PixelIndent", "22");
