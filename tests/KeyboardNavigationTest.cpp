@@ -619,3 +619,32 @@ TEST_F(KeyboardNavigationTest, ScrollBarsStepAndPageAndScrolledPanesShowWhatTabR
     EXPECT_GE(shown.top(), seen.top());
     EXPECT_LE(shown.bottom(), seen.bottom());
 }
+
+TEST_F(KeyboardNavigationTest, TheColumnListsAreReachedBothWaysAndWalkedByKeys)
+{
+    // Shift+Tab from a button reaches the column list of rows before it, Tab the tree list
+    // after it; Down walks each.
+    auto& rows = static_cast<MultiColumnList&>(
+        moxietest::place("MoxieLook/MultiColumnListEx", 10, 10, 200, 120));
+    rows.addColumn("Name", 0, cegui_absdim(100));
+    for (const char* text : {"a", "b", "c"})
+        rows.addRow(new ListboxTextItem(text), 0);
+    Window& middle = moxietest::place("MoxieLook/Button", 10, 140, 80, 24);
+    auto& tree = static_cast<TreeView&>(
+        moxietest::place("MoxieLook/TreeViewMultiColumnListEx", 10, 180, 250, 150));
+    TreeView::Node* title = tree.GetRootNode()->Add("t", "Title", nullptr);
+    title->Add("l", "Leaf", nullptr);
+    drawnBy(tree);
+    middle.activate();
+    moxietest::press(Key::Tab, true);
+    ASSERT_EQ(focused(), &rows);
+    moxietest::press(Key::ArrowDown);
+    moxietest::press(Key::ArrowDown);
+    EXPECT_EQ(rows.getItemRowIndex(rows.getFirstSelectedItem()), 1u);
+    moxietest::press(Key::Tab);
+    moxietest::press(Key::Tab);
+    ASSERT_EQ(focused(), &tree);
+    moxietest::press(Key::ArrowDown);
+    moxietest::press(Key::ArrowDown);
+    EXPECT_EQ(tree.GetSelectedNode()->GetName(), "l");
+}
