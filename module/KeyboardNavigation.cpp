@@ -4,6 +4,7 @@
 #include "module/WidgetKeys.h"
 #include "widgets/ButtonEx.h"
 #include "widgets/RadioButtonEx.h"
+#include "widgets/SmartButtonNodeItem.h"
 #include "widgets/TaskbarButton.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
@@ -89,7 +90,8 @@ bool isOperable(const Window& w)
            dynamic_cast<const ItemListbox*>(&w) || dynamic_cast<const Menubar*>(&w) ||
            dynamic_cast<const TabControl*>(&w) || dynamic_cast<const Tree*>(&w) ||
            dynamic_cast<const TreeView*>(&w) || dynamic_cast<const WidgetDropDownListbox*>(&w) ||
-           dynamic_cast<const Scrollbar*>(&w) || dynamic_cast<const PopupMenu*>(&w);
+           dynamic_cast<const Scrollbar*>(&w) || dynamic_cast<const PopupMenu*>(&w) ||
+           dynamic_cast<const SmartButtonNodeItem*>(&w);
 }
 
 // Widgets that leave the arrow keys to move the focus.
@@ -359,6 +361,14 @@ bool operate(Window& focused)
     if (auto* taskbarButton = dynamic_cast<TaskbarButton*>(&focused))
     {
         taskbarButton->ClickByKey();
+        return true;
+    }
+    if (auto* node = dynamic_cast<SmartButtonNodeItem*>(&focused))
+    {
+        // What a click on its button does: the button's sound, the node selected or not.
+        if (ButtonEx* button = node->GetButton())
+            button->PlayClickSound();
+        node->SetSelected(!node->IsSelected());
         return true;
     }
     if (auto* ours = dynamic_cast<RadioButtonEx*>(&focused))

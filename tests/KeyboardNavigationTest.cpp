@@ -5,6 +5,7 @@
 #include "widgets/ButtonEx.h"
 #include "widgets/DragEventArgs.h"
 #include "widgets/RadioButtonEx.h"
+#include "widgets/SmartButtonNodeItem.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
@@ -647,4 +648,50 @@ TEST_F(KeyboardNavigationTest, TheColumnListsAreReachedBothWaysAndWalkedByKeys)
     moxietest::press(Key::ArrowDown);
     moxietest::press(Key::ArrowDown);
     EXPECT_EQ(tree.GetSelectedNode()->GetName(), "l");
+}
+
+TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
+{
+    // A node of buttons opens and closes by Space, as its button's click does.
+    auto& root = static_cast<SmartButtonNodeItem&>(
+        moxietest::place("MoxieLook/SmartButtonNodeItem", 10, 10, 120, 40));
+    auto& node = static_cast<SmartButtonNodeItem&>(
+        *WindowManager::getSingleton().createWindow("MoxieLook/SmartButtonNodeItem"));
+    node.setText("Node");
+    root.AddNode(&node); // a root is always open: a node under it opens and closes
+    ASSERT_TRUE(focusWidget(node));
+    moxietest::sounds().clear();
+    moxietest::press(Key::Space);
+    EXPECT_TRUE(node.IsSelected());
+    EXPECT_EQ(moxietest::sounds().size(), 1u);
+    moxietest::press(Key::Space);
+    EXPECT_FALSE(node.IsSelected());
+
+    // Tab reaches a spinner, the combo box's edit part and the other bars; each steps.
+    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 10, 60, 100, 30));
+    Window& edit = moxietest::place("MoxieLook/ComboEditbox", 10, 100, 100, 30);
+    auto& across = static_cast<Scrollbar&>(
+        moxietest::place("MoxieLook/HorizontalScrollbar", 10, 140, 200, 18));
+    auto& large = static_cast<Scrollbar&>(
+        moxietest::place("MoxieLook/LargeVerticalScrollbar", 250, 10, 24, 200));
+    for (Scrollbar* bar : {&across, &large})
+    {
+        bar->setDocumentSize(100);
+        bar->setPageSize(20);
+        bar->setStepSize(1);
+    }
+    moxietest::press(Key::Tab);
+    ASSERT_EQ(focused(), &spinner);
+    moxietest::press(Key::PageUp);
+    EXPECT_EQ(spinner.getCurrentValue(), 10 * spinner.getStepSize());
+    moxietest::press(Key::Tab);
+    EXPECT_EQ(focused(), &edit);
+    moxietest::press(Key::Tab);
+    ASSERT_EQ(focused(), &across);
+    moxietest::press(Key::ArrowRight);
+    EXPECT_EQ(across.getScrollPosition(), 1);
+    moxietest::press(Key::Tab);
+    ASSERT_EQ(focused(), &large);
+    moxietest::press(Key::PageDown);
+    EXPECT_EQ(large.getScrollPosition(), 20);
 }
