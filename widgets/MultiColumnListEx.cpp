@@ -61,9 +61,7 @@ void MultiColumnListEx::deleteOwned(SavedRow& row)
 
 uint MultiColumnListEx::addRow(uint rowId)
 {
-    d_changingGrid = true;
-    const uint index = MultiColumnList::addRow(rowId);
-    d_changingGrid = false;
+    const uint index = changingGrid([&] { return MultiColumnList::addRow(rowId); });
     if (!d_suppress)
         save(getRowWithID(rowId));
     return index;
@@ -79,9 +77,7 @@ uint MultiColumnListEx::addRow(ListboxItem* item, uint columnId, uint rowId)
 
 uint MultiColumnListEx::insertRow(uint rowIndex, uint rowId)
 {
-    d_changingGrid = true;
-    const uint index = MultiColumnList::insertRow(rowIndex, rowId);
-    d_changingGrid = false;
+    const uint index = changingGrid([&] { return MultiColumnList::insertRow(rowIndex, rowId); });
     if (!d_suppress)
         save(index);
     return index;
@@ -102,9 +98,7 @@ void MultiColumnListEx::setItem(ListboxItem* item, uint columnId, uint rowIndex)
     if (row.visible)
     {
         // The grid holds a shown row's items; CEGUI deletes the one replaced.
-        d_changingGrid = true;
-        MultiColumnList::setItem(item, columnId, getRowWithID(row.rowId));
-        d_changingGrid = false;
+        changingGrid([&] { MultiColumnList::setItem(item, columnId, getRowWithID(row.rowId)); });
         return;
     }
     if (d_suppress)
@@ -144,9 +138,7 @@ void MultiColumnListEx::resetList()
         if (row && !row->visible)
             deleteOwned(*row);
     d_store.clear();
-    d_changingGrid = true;
-    MultiColumnList::resetList();
-    d_changingGrid = false;
+    changingGrid([&] { MultiColumnList::resetList(); });
 }
 
 void MultiColumnListEx::HideRow(uint rowId)
@@ -192,9 +184,7 @@ void MultiColumnListEx::ShowRow(uint rowId, uint rowIndex)
     row.items.clear(); // the grid's now
     row.visible = true;
     WindowEventArgs args(this);
-    d_changingGrid = true;
-    onListContentsChanged(args);
-    d_changingGrid = false;
+    changingGrid([&] { onListContentsChanged(args); });
 }
 
 void MultiColumnListEx::ShowRows(uint first, uint last)
@@ -225,9 +215,7 @@ void MultiColumnListEx::RemoveRow(uint rowId)
     }
     if (visible)
     {
-        d_changingGrid = true;
-        removeRow(getRowWithID(rowId));
-        d_changingGrid = false;
+        changingGrid([&] { removeRow(getRowWithID(rowId)); });
     }
     else if (row)
         deleteOwned(*row);

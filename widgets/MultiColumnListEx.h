@@ -81,6 +81,18 @@ private:
     bool d_suppress = false;
     //! Set while this class changes the grid itself, which keeps the store as it goes.
     bool d_changingGrid = false;
+    //! Runs `change` to the grid with d_changingGrid set, however it ends.
+    template <typename Change>
+    auto changingGrid(Change change)
+    {
+        struct Guard
+        {
+            bool& flag;
+            ~Guard() { flag = false; }
+        } guard{d_changingGrid};
+        d_changingGrid = true;
+        return change();
+    }
 };
 
 } // namespace MoxieLook
