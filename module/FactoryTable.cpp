@@ -38,8 +38,10 @@
 
 #include <CEGUI/WindowFactoryManager.h>
 #include <CEGUI/WindowRendererManager.h>
+#include <algorithm>
 #include <array>
 #include <cstring>
+#include <iterator>
 
 namespace CEGUI
 {
@@ -246,9 +248,13 @@ void addToCegui(const FactoryEntry& entry)
 
 void removeFromCegui(const FactoryEntry& entry)
 {
-    detachKeyboardNavigation();
     WindowFactoryManager& windows = WindowFactoryManager::getSingleton();
     windows.removeFactory(entry.typeName);
+    // With the last of the module's types gone, the module may be unloaded.
+    if (std::none_of(std::begin(k_table), std::end(k_table),
+                     [&windows](const FactoryEntry& e)
+                     { return windows.isFactoryPresent(e.typeName); }))
+        detachKeyboardNavigation();
     if (!entry.renderer)
         return;
     for (const FactoryEntry& other : k_table)

@@ -6,6 +6,7 @@
 #include "widgets/RadioButtonEx.h"
 #include "widgets/SmartButtonNodeItem.h"
 #include "widgets/TaskbarButton.h"
+#include "widgets/TextItemEx.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
@@ -66,8 +67,10 @@ public:
     }
     void set(PropertyReceiver* receiver, const String& value) override
     {
-        static_cast<Window*>(receiver)->setUserString(
+        auto* window = static_cast<Window*>(receiver);
+        window->setUserString(
             TabStopKey, PropertyHelper<bool>::toString(PropertyHelper<bool>::fromString(value)));
+        window->invalidate(true); // a ring drawn on it may have to go
     }
     Property* clone() const override { return new TabStopProperty(*this); }
 };
@@ -77,6 +80,12 @@ TabStopProperty s_tabStop;
 bool isMoxieLook(const Window& window)
 {
     return window.getType().compare(0, 10, "MoxieLook/") == 0;
+}
+
+bool isSelectableText(const Window& w)
+{
+    const auto* item = dynamic_cast<const TextItemEx*>(&w);
+    return item && item->isSelectable();
 }
 
 // The widgets one operates, as opposed to labels, frames and containers.
@@ -91,14 +100,19 @@ bool isOperable(const Window& w)
            dynamic_cast<const TabControl*>(&w) || dynamic_cast<const Tree*>(&w) ||
            dynamic_cast<const TreeView*>(&w) || dynamic_cast<const WidgetDropDownListbox*>(&w) ||
            dynamic_cast<const Scrollbar*>(&w) || dynamic_cast<const PopupMenu*>(&w) ||
-           dynamic_cast<const SmartButtonNodeItem*>(&w);
+           dynamic_cast<const SmartButtonNodeItem*>(&w) || isSelectableText(w);
 }
 
-// Widgets that leave the arrow keys to move the focus.
-bool leavesArrows(const Window& w)
+// Arrows a widget uses itself beyond the keys WidgetKeys gives it: a caret's, a combo box's
+// stepping (its own handler).
+bool usesArrow(const Window& w, Key::Scan key)
 {
-    return dynamic_cast<const PushButton*>(&w) || dynamic_cast<const CEGUI::ToggleButton*>(&w) ||
-           dynamic_cast<const RadioButton*>(&w);
+    if (dynamic_cast<const MultiLineEditbox*>(&w) || dynamic_cast<const Combobox*>(&w) ||
+        dynamic_cast<const Spinner*>(&w))
+        return true;
+    if (dynamic_cast<const Editbox*>(&w))
+        return key == Key::ArrowLeft || key == Key::ArrowRight;
+    return false;
 }
 
 struct ContextState
@@ -314,10 +328,12 @@ bool moveFocus(GUIContext& context, Window* target)
     scrollIntoView(*target);
     target->activate();
     // Activating a window leaves its active children active: the keys would still go to
-    // them (a tab control reached from a widget on its page).
-    for (std::size_t i = 0; i < target->getChildCount(); ++i)
-        if (Window* child = target->getChildAtIdx(i); child->isActive())
-            child->deactivate();
+    // another widget inside it (a tab control reached from a widget on its page). Its own
+    // parts (a combo box's edit part) are its.
+    if (focusedWidget(context) != target)
+        for (std::size_t i = 0; i < target->getChildCount(); ++i)
+            if (Window* child = target->getChildAtIdx(i); child->isActive())
+                child->deactivate();
     setRing(stateOf(context), target, true);
     return true;
 }
@@ -343,9 +359,10 @@ bool tab(GUIContext& context, Window* focused, bool backwards)
     return moveFocus(context, order[backwards ? (i + n - 1) % n : (i + 1) % n]);
 }
 
-bool arrow(GUIContext& context, Window& focused, float dx, float dy)
+// An arrow the focused widget left unused moves the focus that way (a gamepad's pad).
+bool arrow(GUIContext& context, Window& focused, Key::Scan key, float dx, float dy)
 {
-    if (!leavesArrows(focused))
+    if (usesArrow(focused, key))
         return false;
     std::vector<Window*> candidates;
     if (Window* scope = scopeOf(context, &focused))
@@ -361,6 +378,11 @@ bool operate(Window& focused)
     if (auto* taskbarButton = dynamic_cast<TaskbarButton*>(&focused))
     {
         taskbarButton->ClickByKey();
+        return true;
+    }
+    if (auto* text = dynamic_cast<TextItemEx*>(&focused); text && text->isSelectable())
+    {
+        text->setSelected(!text->isSelected()); // as a click: "SelectStateChanged"
         return true;
     }
     if (auto* node = dynamic_cast<SmartButtonNodeItem*>(&focused))
@@ -484,13 +506,13 @@ bool onKeyDown(const EventArgs& args)
             return false;
         return tab(context, focused, shift);
     case Key::ArrowUp:
-        return focused && arrow(context, *focused, 0, -1);
+        return focused && arrow(context, *focused, key.scancode, 0, -1);
     case Key::ArrowDown:
-        return focused && arrow(context, *focused, 0, 1);
+        return focused && arrow(context, *focused, key.scancode, 0, 1);
     case Key::ArrowLeft:
-        return focused && arrow(context, *focused, -1, 0);
+        return focused && arrow(context, *focused, key.scancode, -1, 0);
     case Key::ArrowRight:
-        return focused && arrow(context, *focused, 1, 0);
+        return focused && arrow(context, *focused, key.scancode, 1, 0);
     case Key::Space:
         if (typesInto(*target))
             return false;
@@ -607,7 +629,10 @@ void attachKeyboardNavigation()
     {
         keys = events->subscribeEvent("Window/" + Window::EventKeyDown, &onKeyDown);
         mouse = events->subscribeEvent("Window/" + Window::EventMouseButtonDown, &onMouseDown);
-        states().clear(); // a new CEGUI: the old contexts are gone
+        // A new CEGUI: the windows the rings were on are gone; the host's switches stay.
+        for (auto& entry : states())
+            entry.second.ringOwner = entry.second.ringWidget = nullptr,
+            entry.second.ringShown = false;
     }
     if (WindowManager* windows = WindowManager::getSingletonPtr(); windows && !connected(created))
         created = windows->subscribeEvent(WindowManager::EventWindowCreated, &onWindowCreated);

@@ -154,14 +154,21 @@ bool stepKey(Key::Scan key, float step, const std::function<void(float)>& by)
     }
 }
 
+// The next tab the mouse could pick (enabled), round at the ends.
 bool switchTab(TabControl& tabs, bool back)
 {
     const std::size_t count = tabs.getTabCount();
-    if (count < 2)
-        return false;
     const std::size_t at = tabs.getSelectedTabIndex();
-    tabs.setSelectedTabAtIndex(back ? (at + count - 1) % count : (at + 1) % count);
-    return true;
+    for (std::size_t step = 1; step < count; ++step)
+    {
+        const std::size_t to = back ? (at + count - step) % count : (at + step) % count;
+        if (!tabs.getTabContentsAtIndex(to)->isDisabled())
+        {
+            tabs.setSelectedTabAtIndex(to);
+            return true;
+        }
+    }
+    return false;
 }
 
 // A menu item's hover flag is what marks it under the pointer; keys mark it the same way.

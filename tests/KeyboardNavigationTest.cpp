@@ -6,6 +6,7 @@
 #include "widgets/DragEventArgs.h"
 #include "widgets/RadioButtonEx.h"
 #include "widgets/SmartButtonNodeItem.h"
+#include "widgets/TextItemEx.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
@@ -558,7 +559,7 @@ TEST_F(KeyboardNavigationTest, EveryKindOfButtonIsReachedByTabAndClickedBySpace)
     for (const char* type :
          {"MoxieLook/Button", "MoxieLook/ButtonEx", "MoxieLook/ImageButton", "MoxieLook/IconButton",
           "MoxieLook/MenuButton", "MoxieLook/SystemButton", "MoxieLook/ToggleButton",
-          "MoxieLook/RadioButton", "MoxieLook/MenubarItem"})
+          "MoxieLook/RadioButton", "MoxieLook/CloseButton", "MoxieLook/MenubarItem"})
     {
         SCOPED_TRACE(type);
         moxietest::freshSheet();
@@ -666,6 +667,18 @@ TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
     EXPECT_EQ(moxietest::sounds().size(), 1u);
     moxietest::press(Key::Space);
     EXPECT_FALSE(node.IsSelected());
+    // A selectable text item toggles as a click toggles it.
+    auto& text =
+        static_cast<TextItemEx&>(moxietest::place("MoxieLook/TextItemEx", 300, 200, 100, 24));
+    text.setText("Pick me");
+    int toggles = 0;
+    text.subscribeEvent(TextItemEx::EventSelectStateChanged, [&toggles] { ++toggles; });
+    ASSERT_TRUE(focusWidget(text));
+    moxietest::press(Key::Space);
+    EXPECT_TRUE(text.isSelected());
+    EXPECT_EQ(toggles, 1);
+    text.hide(); // out of the round that follows
+    focusWidget(node);
 
     // Tab reaches a spinner, the combo box's edit part and the other bars; each steps.
     auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 10, 60, 100, 30));
@@ -694,4 +707,39 @@ TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
     ASSERT_EQ(focused(), &large);
     moxietest::press(Key::PageDown);
     EXPECT_EQ(large.getScrollPosition(), 20);
+}
+
+TEST_F(KeyboardNavigationTest, AGamepadLeavesEachWidgetByTheArrowsItDoesNotUse)
+{
+    // A row of a box one types into, a list and a tab control over a button: the pad's
+    // arrows leave each by a way it leaves free, and Tab into a combo box lets one type.
+    Window& box = moxietest::place("MoxieLook/Editbox", 10, 10, 120, 28);
+    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 160, 10, 120, 80));
+    list.addItem(new ListboxTextItem("One"));
+    auto& tabs =
+        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 310, 10, 200, 80));
+    for (const char* title : {"A", "B", "C"})
+    {
+        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", title);
+        page->setText(title);
+        tabs.addTab(page);
+    }
+    tabs.getTabContentsAtIndex(1)->disable(); // the mouse cannot pick it: nor can keys
+    Window& below = moxietest::place("MoxieLook/Button", 330, 140, 80, 28);
+    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 140, 150, 120));
+
+    box.activate();
+    moxietest::press(Key::ArrowRight); // the caret's
+    EXPECT_EQ(focused(), &box);
+    moxietest::press(Key::ArrowDown); // free: the combo box below
+    EXPECT_EQ(focused(), &combo);
+    moxietest::type("xy"); // reached by keys, it still takes the text
+    EXPECT_EQ(combo.getText(), "xy");
+    list.activate();
+    moxietest::press(Key::ArrowRight); // the list uses Up and Down only
+    EXPECT_EQ(focused(), &tabs);
+    moxietest::press(Key::ArrowRight); // the tab control's own: the next enabled tab
+    EXPECT_EQ(tabs.getSelectedTabIndex(), 2u);
+    moxietest::press(Key::ArrowDown);
+    EXPECT_EQ(focused(), &below);
 }

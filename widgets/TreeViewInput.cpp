@@ -210,10 +210,16 @@ bool TreeView::moveByKey(Key::Scan key)
             invalidate();
             return true;
         }
-        if (open || !selected->d_parent || !selected->d_parent->d_parent)
+        Node* parent = selected->d_parent;
+        if (open || !parent || !parent->d_parent)
             return true; // nothing further that way
-        SetSelectionByNode(selected->d_parent);
-        return true;
+        if (!parent->d_hitRelative || !parent->d_chunk)
+        {
+            SetSelectionByNode(parent); // a title with no line of its own (an empty text)
+            return true;
+        }
+        to = d_lines->find(*parent->d_chunk, parent->d_hitRect.top() - 3.0f);
+        break;
     }
     default:
         return false;
