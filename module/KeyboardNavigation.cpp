@@ -5,6 +5,7 @@
 #include "widgets/ButtonEx.h"
 #include "widgets/RadioButtonEx.h"
 #include "widgets/SmartButtonNodeItem.h"
+#include "widgets/StaticLayout.h"
 #include "widgets/TaskbarButton.h"
 #include "widgets/TextItemEx.h"
 #include "widgets/ToggleButton.h"
@@ -435,10 +436,19 @@ bool operate(Window& focused)
 
 bool close(Window& focused)
 {
-    if (auto* button = dynamic_cast<ButtonEx*>(&focused); button && button->IsDragging())
+    // A drag in progress: the dragged window, or the one the focus is in.
+    for (Window* w = &focused; w; w = w->getParent())
     {
-        button->CancelDrag();
-        return true;
+        if (auto* button = dynamic_cast<ButtonEx*>(w); button && button->IsDragging())
+        {
+            button->CancelDrag();
+            return true;
+        }
+        if (auto* layout = dynamic_cast<StaticLayout*>(w); layout && layout->IsDragging())
+        {
+            layout->CancelDrag();
+            return true;
+        }
     }
     if (auto* combo = dynamic_cast<Combobox*>(&focused); combo && combo->isDropDownListVisible())
     {

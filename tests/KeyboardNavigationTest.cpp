@@ -6,6 +6,7 @@
 #include "widgets/DragEventArgs.h"
 #include "widgets/RadioButtonEx.h"
 #include "widgets/SmartButtonNodeItem.h"
+#include "widgets/StaticLayout.h"
 #include "widgets/TextItemEx.h"
 #include "widgets/ToggleButton.h"
 #include "widgets/TreeView.h"
@@ -490,6 +491,24 @@ TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
     EXPECT_EQ(moxietest::sounds(), std::vector<std::string>{"meup"});
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(cancelled, 1);
+
+    // A layout dragged by its own area goes back the same way.
+    auto& layout =
+        static_cast<StaticLayout&>(moxietest::place("MoxieLook/StaticLayout", 300, 300, 100, 80));
+    layout.SetDragAuthorized(true);
+    int layoutCancels = 0;
+    layout.subscribeEvent(EventDropCancelled, [&layoutCancels] { ++layoutCancels; });
+    moxietest::pointerTo(320, 320);
+    moxietest::leftDown();
+    moxietest::pointerTo(340, 320);
+    moxietest::pointerTo(500, 450);
+    ASSERT_TRUE(layout.IsDragging());
+    moxietest::press(Key::Escape);
+    EXPECT_FALSE(layout.IsDragging());
+    EXPECT_EQ(layoutCancels, 1);
+    EXPECT_EQ(layout.getUnclippedOuterRect().get().d_min, Vector2f(300, 300));
+    moxietest::leftUp();
+    EXPECT_EQ(layoutCancels, 1);
 }
 
 TEST_F(KeyboardNavigationTest, KeysKeepTheirPromisesWhereWidgetsNestOrDiffer)

@@ -477,6 +477,19 @@ bool StaticLayout::MouseMove(const EventArgs& args)
     return true;
 }
 
+void StaticLayout::CancelDrag()
+{
+    if (!d_dragging)
+        return;
+    d_armed = false;
+    d_accumulatedMovement = 0;
+    setPosition(d_positionBeforeDrag);
+    setDragging(false);
+    DragEventArgs cancelled(this, nullptr);
+    fireEvent(EventDropCancelled, cancelled, "");
+    setEnabled(true);
+}
+
 bool StaticLayout::MouseUp(const EventArgs&)
 {
     d_armed = false;

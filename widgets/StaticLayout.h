@@ -72,6 +72,9 @@ public:
 
     void SetDragAuthorized(bool authorised) { d_dragAuthorised = authorised; }
     bool IsDragging() const { return d_dragging; }
+    //! Ends a drag in progress as a drop on no target does (back in place, "DropCancelled").
+    //! For Escape.
+    void CancelDrag();
     static bool IsDraggingOperationInProgress() { return mbDraggingInProgress; }
     void AddDropTarget(Window* window);
     void ClearDropTargets() { d_dropTargets.clear(); }
