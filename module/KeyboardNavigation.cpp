@@ -20,6 +20,7 @@
 #include <CEGUI/widgets/Combobox.h>
 #include <CEGUI/widgets/Editbox.h>
 #include <CEGUI/widgets/FrameWindow.h>
+#include <CEGUI/widgets/ItemEntry.h>
 #include <CEGUI/widgets/ItemListbox.h>
 #include <CEGUI/widgets/Listbox.h>
 #include <CEGUI/widgets/MenuItem.h>
@@ -597,7 +598,10 @@ Window* focusedWidget(const GUIContext& context)
     Window* active = base ? base->getActiveChild() : nullptr;
     if (!active && base != root)
         active = base; // the modal window itself takes the keys
-    while (active && active->isAutoWindow() && active->getParent())
+    // Parts belong to their widget: auto windows, and the item windows of a list (a clicked
+    // item keeps the keys otherwise).
+    while (active && (active->isAutoWindow() || dynamic_cast<ItemEntry*>(active)) &&
+           active->getParent())
         active = active->getParent();
     return active == root ? nullptr : active;
 }
