@@ -124,28 +124,16 @@ TEST_F(KeyboardNavigationTest, TabWalksTheFrameInOrderWrapsAndSkipsWhatCannotTak
     EXPECT_EQ(focused(), ok);
 }
 
-TEST_F(KeyboardNavigationTest, KeysClickToggleSelectAndOpenAsTheMouseWould)
+TEST_F(KeyboardNavigationTest, CheckBoxesToggleAndComboBoxesOpenAsTheMouseWould)
 {
-    Window& button = moxietest::place("MoxieLook/Button", 10, 10, 100, 28);
     Window& check = moxietest::place("MoxieLook/Checkbox", 10, 50, 140, 24);
-    Window& radio = moxietest::place("MoxieLook/RadioButton", 10, 90, 140, 24);
     auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 200, 10, 160, 140));
     combo.addItem(new ListboxTextItem("One"));
-    int clicks = 0;
-    button.subscribeEvent(PushButton::EventClicked,
-                          [&clicks](const EventArgs&) { return ++clicks > 0; });
-    button.activate();
-    press(Key::Space);
-    press(Key::Return);
-    EXPECT_EQ(clicks, 2);
     check.activate();
     press(Key::Space);
     EXPECT_TRUE(static_cast<CEGUI::ToggleButton&>(check).isSelected());
     press(Key::Return);
     EXPECT_FALSE(static_cast<CEGUI::ToggleButton&>(check).isSelected());
-    radio.activate();
-    press(Key::Space);
-    EXPECT_TRUE(static_cast<RadioButtonEx&>(radio).isSelected());
     // A combo box one types into keeps Space and Return (its text accepted); F4 opens it.
     int shown = 0, accepted = 0;
     combo.subscribeEvent(Combobox::EventDropListDisplayed, [&shown] { ++shown; });
@@ -252,7 +240,7 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
     press(Key::ArrowDown);
     EXPECT_EQ(table.getItemRowIndex(table.getFirstSelectedItem()), 1u);
 
-    // A slider steps by its click step and pages by ten; a spinner steps.
+    // A slider steps by its click step and pages by ten.
     auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 10, 150, 200, 30));
     slider.setMaxValue(1.0f);
     slider.setClickStep(0.1f);
@@ -262,11 +250,6 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
     EXPECT_NEAR(slider.getCurrentValue(), 0.6f, 1e-5f);
     press(Key::PageDown);
     EXPECT_EQ(slider.getCurrentValue(), 0.0f);
-    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 250, 150, 100, 30));
-    spinner.activate();
-    press(Key::ArrowUp);
-    EXPECT_EQ(spinner.getCurrentValue(), spinner.getStepSize());
-
     // Tabs: Ctrl+Tab from inside a page, and Left and Right on the tab row itself.
     auto& tabs =
         static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 10, 200, 300, 150));
@@ -418,55 +401,6 @@ TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
     EXPECT_FALSE(context.isVisible());
 }
 
-TEST_F(KeyboardNavigationTest, CeguisTreeAndTheItemListWalkTheirItems)
-{
-    auto& tree = static_cast<Tree&>(moxietest::place("MoxieLook/Tree", 10, 10, 240, 140));
-    auto* fruit = new TreeItem("Fruit");
-    tree.addItem(fruit);
-    auto* apples = new TreeItem("Apples");
-    fruit->addItem(apples);
-    auto* bread = new TreeItem("Bread");
-    tree.addItem(bread);
-    int opened = 0, closed = 0, selections = 0;
-    tree.subscribeEvent(Tree::EventBranchOpened, [&opened] { ++opened; });
-    tree.subscribeEvent(Tree::EventBranchClosed, [&closed] { ++closed; });
-    tree.subscribeEvent(Tree::EventSelectionChanged, [&selections] { ++selections; });
-    tree.activate();
-    press(Key::ArrowDown);
-    EXPECT_EQ(tree.getFirstSelectedItem(), fruit);
-    press(Key::ArrowDown); // closed: Bread comes next
-    EXPECT_EQ(tree.getFirstSelectedItem(), bread);
-    press(Key::ArrowUp);
-    press(Key::ArrowRight); // opens Fruit
-    EXPECT_TRUE(fruit->getIsOpen());
-    press(Key::ArrowDown);
-    EXPECT_EQ(tree.getFirstSelectedItem(), apples);
-    press(Key::ArrowLeft); // a leaf: to its branch
-    press(Key::ArrowLeft); // an open branch: closes
-    EXPECT_FALSE(fruit->getIsOpen());
-    EXPECT_EQ(opened, 1);
-    EXPECT_EQ(closed, 1);
-    EXPECT_EQ(selections, 5);
-
-    auto& list =
-        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 300, 10, 200, 110));
-    for (int i = 0; i < 12; ++i)
-    {
-        Window* item = WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem");
-        item->setText("Item " + PropertyHelper<int>::toString(i));
-        list.addItem(static_cast<ItemEntry*>(item));
-    }
-    int changes = 0;
-    list.subscribeEvent(ItemListbox::EventSelectionChanged, [&changes] { ++changes; });
-    list.activate();
-    press(Key::ArrowDown);
-    press(Key::End);
-    EXPECT_EQ(list.getItemIndex(list.getFirstSelectedItem()), 11u);
-    EXPECT_GT(list.getVertScrollbar()->getScrollPosition(), 0);
-    EXPECT_EQ(list.getSelectedCount(), 1u);
-    EXPECT_GE(changes, 2); // as a click: the old selection going, then the new one
-}
-
 TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
 {
     auto& button = static_cast<ButtonEx&>(moxietest::place("MoxieLook/ButtonEx", 10, 10, 100, 30));
@@ -612,21 +546,8 @@ TEST_F(KeyboardNavigationTest, EveryKindOfButtonIsReachedByTabAndClickedBySpace)
     }
 }
 
-TEST_F(KeyboardNavigationTest, ScrollBarsStepAndPageAndScrolledPanesShowWhatTabReaches)
+TEST_F(KeyboardNavigationTest, ScrolledPanesShowWhatTabReaches)
 {
-    auto& bar =
-        static_cast<Scrollbar&>(moxietest::place("MoxieLook/VerticalScrollbar", 10, 10, 18, 200));
-    bar.setDocumentSize(100);
-    bar.setPageSize(20);
-    bar.setStepSize(1);
-    bar.activate();
-    press(Key::ArrowDown);
-    EXPECT_EQ(bar.getScrollPosition(), 1);
-    press(Key::PageDown);
-    EXPECT_EQ(bar.getScrollPosition(), 21);
-    press(Key::ArrowUp);
-    EXPECT_EQ(bar.getScrollPosition(), 20);
-
     // Tab to a button far down a scrolled pane: the pane scrolls to show it.
     auto& pane = static_cast<ScrollablePane&>(
         moxietest::place("MoxieLook/ScrollablePane", 100, 10, 200, 150));
@@ -725,6 +646,10 @@ TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
     moxietest::press(Key::Tab);
     ASSERT_EQ(focused(), &large);
     moxietest::press(Key::PageDown);
+    EXPECT_EQ(large.getScrollPosition(), 20);
+    moxietest::press(Key::ArrowDown); // upright: Down goes on
+    EXPECT_EQ(large.getScrollPosition(), 21);
+    moxietest::press(Key::ArrowUp);
     EXPECT_EQ(large.getScrollPosition(), 20);
 }
 

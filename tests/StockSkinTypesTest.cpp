@@ -337,6 +337,16 @@ TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
     moxietest::hover(*below);
     EXPECT_EQ(moxietest::imageNames(drawnBy(*below)).front(), "ListboxHoverBrush");
     EXPECT_EQ(moxietest::imageNames(drawnBy(*under)).front(), "ListboxSelectionBrush");
+
+    // By keys: Home and End move the one selection and keep it in view.
+    list.activate();
+    moxietest::press(Key::Home);
+    EXPECT_EQ(list.getItemIndex(list.getFirstSelectedItem()), 0u);
+    EXPECT_EQ(bar->getScrollPosition(), 0);
+    moxietest::press(Key::End);
+    EXPECT_EQ(list.getItemIndex(list.getFirstSelectedItem()), 11u);
+    EXPECT_GT(bar->getScrollPosition(), 0);
+    EXPECT_EQ(list.getSelectedCount(), 1u);
 }
 
 TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkField)
@@ -384,6 +394,24 @@ TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkFie
     const auto brush = find(drawnBy(tree), "ListboxSelectionBrush");
     ASSERT_TRUE(brush);
     EXPECT_EQ(argb(brush->colours.d_top_left), 0xFF3B78D8u);
+
+    // By keys: up the open branch, to it, closing it, on past it, back and open again.
+    int closedCount = 0;
+    tree.subscribeEvent(Tree::EventBranchClosed, [&closedCount] { ++closedCount; });
+    tree.activate();
+    moxietest::press(Key::ArrowUp);
+    EXPECT_EQ(tree.getFirstSelectedItem()->getText(), "Apples");
+    moxietest::press(Key::ArrowLeft); // a leaf: to its branch
+    moxietest::press(Key::ArrowLeft); // an open branch: closes
+    EXPECT_FALSE(fruit->getIsOpen());
+    EXPECT_EQ(closedCount, 1);
+    moxietest::press(Key::ArrowDown);
+    EXPECT_EQ(tree.getFirstSelectedItem(), bread);
+    moxietest::press(Key::ArrowUp);
+    moxietest::press(Key::ArrowRight);
+    EXPECT_TRUE(fruit->getIsOpen());
+    EXPECT_EQ(opened, 2);
+    EXPECT_EQ(selections, 5);
 }
 
 TEST_F(StockSkinTypesTest, StockPropertiesChangeWhatIsDrawn)
