@@ -44,12 +44,12 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
                           "Property to get/set the title bar's caption colour. Value is "
                           "\"aarrggbb\".",
                           &MXFrameWindow::setCaptionColour, &MXFrameWindow::getCaptionColour,
-                          ColourRect(withAlpha(MXTitlebar::ActiveTextColour, 1.0f)));
+                          ColourRect(opaque(MXTitlebar::ActiveTextColour)));
     CEGUI_DEFINE_PROPERTY(MXFrameWindow, ColourRect, "ClientAreaColour",
                           "Property to get/set the tint of the client area's background. Value "
                           "is \"aarrggbb\".",
                           &MXFrameWindow::setClientAreaColour, &MXFrameWindow::getClientAreaColour,
-                          ColourRect(withAlpha(ClientTopLeftColour, 1.0f)));
+                          ColourRect(opaque(ClientTopLeftColour)));
 }
 
 void MXFrameWindow::setCaptionColour(const ColourRect& colours)
@@ -62,7 +62,7 @@ ColourRect MXFrameWindow::getCaptionColour() const
 {
     if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
         return bar->getCaptionColour();
-    return ColourRect(withAlpha(MXTitlebar::ActiveTextColour, 1.0f));
+    return ColourRect(opaque(MXTitlebar::ActiveTextColour));
 }
 
 void MXFrameWindow::setClientAreaColour(const ColourRect& colours)
@@ -73,7 +73,7 @@ void MXFrameWindow::setClientAreaColour(const ColourRect& colours)
 
 ColourRect MXFrameWindow::getClientAreaColour() const
 {
-    return d_clientAreaColour.value_or(ColourRect(withAlpha(ClientTopLeftColour, 1.0f)));
+    return d_clientAreaColour.value_or(ColourRect(opaque(ClientTopLeftColour)));
 }
 
 void MXFrameWindow::setTitlebarFont(const String& name)

@@ -127,13 +127,13 @@ MXListboxItem::MXListboxItem(const String& type, const String& name)
                           "Property to get/set the text colours. Value is \"aarrggbb\" or "
                           "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXListboxItem::setTextColour, &MXListboxItem::getTextColour,
-                          ColourRect(withAlpha(TextColour, 1.0f)));
+                          ColourRect(opaque(TextColour)));
     CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectedTextColour",
                           "Property to get/set the selected text's colours. Value is "
                           "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXListboxItem::setSelectedTextColour,
                           &MXListboxItem::getSelectedTextColour,
-                          ColourRect(withAlpha(SelectedTextColour, 1.0f)));
+                          ColourRect(opaque(SelectedTextColour)));
     CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectionColour",
                           "Property to get/set the tint of the selection brush. Value is "
                           "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
@@ -154,7 +154,7 @@ void MXListboxItem::setTextColour(const ColourRect& colours)
 
 ColourRect MXListboxItem::getTextColour() const
 {
-    return d_textColour.value_or(ColourRect(withAlpha(TextColour, 1.0f)));
+    return d_textColour.value_or(ColourRect(opaque(TextColour)));
 }
 
 void MXListboxItem::setSelectedTextColour(const ColourRect& colours)
@@ -165,7 +165,7 @@ void MXListboxItem::setSelectedTextColour(const ColourRect& colours)
 
 ColourRect MXListboxItem::getSelectedTextColour() const
 {
-    return d_selectedTextColour.value_or(ColourRect(withAlpha(SelectedTextColour, 1.0f)));
+    return d_selectedTextColour.value_or(ColourRect(opaque(SelectedTextColour)));
 }
 
 void MXListboxItem::setSelectionColour(const ColourRect& colours)

@@ -71,12 +71,12 @@ void addMenuItemTintProperties(Owner& owner)
     static Tint normalText("NormalTextColour",
                            String("Property to get/set the text's colours.") + help, origin,
                            &Owner::setNormalTextColour, &Owner::getNormalTextColour,
-                           ColourRect(withAlpha(MenuImagery::TextColour, 1.0f)));
+                           ColourRect(opaque(MenuImagery::TextColour)));
     static Tint disabledText("DisabledTextColour",
                              String("Property to get/set the text's colours while disabled.") +
                                  help,
                              origin, &Owner::setDisabledTextColour, &Owner::getDisabledTextColour,
-                             ColourRect(withAlpha(MenuImagery::DisabledTextColour, 1.0f)));
+                             ColourRect(opaque(MenuImagery::DisabledTextColour)));
     for (Property* property : {&hover, &pushed, &pushedOff, &opened, &normalText, &disabledText})
         owner.addProperty(property);
 }
@@ -182,8 +182,8 @@ Rectf MenuListStyle::spacing() const
 }
 
 MenuItemTints::MenuItemTints(Window& item)
-    : d_item(item), d_normalText(withAlpha(MenuImagery::TextColour, 1.0f)),
-      d_disabledText(withAlpha(MenuImagery::DisabledTextColour, 1.0f))
+    : d_item(item), d_normalText(opaque(MenuImagery::TextColour)),
+      d_disabledText(opaque(MenuImagery::DisabledTextColour))
 {
 }
 

@@ -201,10 +201,8 @@ void MXRadioButton::populateGeometryBuffer()
 
 MXCheckbox::MXCheckbox(const String& type, const String& name)
     : RedrawnWhenUncovered<CEGUI::ToggleButton>(type, name),
-      d_normalText(withAlpha(EnabledTextLabelColour, 1.0f)),
-      d_hoverText(withAlpha(EnabledTextLabelColour, 1.0f)),
-      d_pushedText(withAlpha(EnabledTextLabelColour, 1.0f)),
-      d_disabledText(withAlpha(DisabledTextLabelColour, 1.0f)),
+      d_normalText(opaque(EnabledTextLabelColour)), d_hoverText(opaque(EnabledTextLabelColour)),
+      d_pushedText(opaque(EnabledTextLabelColour)), d_disabledText(opaque(DisabledTextLabelColour)),
       d_normal(&lookImage(NormalImageName)), d_highlight(&lookImage(HighlightImageName)),
       d_checkMark(&lookImage(CheckMarkImageName))
 {
@@ -213,22 +211,22 @@ MXCheckbox::MXCheckbox(const String& type, const String& name)
     CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "NormalTextColour",
                           "Property to get/set the label's colour. Value is \"aarrggbb\".",
                           &MXCheckbox::setNormalTextColour, &MXCheckbox::getNormalTextColour,
-                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+                          ColourRect(opaque(EnabledTextLabelColour)));
     CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "HoverTextColour",
                           "Property to get/set the label's colour under the pointer. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setHoverTextColour, &MXCheckbox::getHoverTextColour,
-                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+                          ColourRect(opaque(EnabledTextLabelColour)));
     CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "PushedTextColour",
                           "Property to get/set the label's colour while pressed. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setPushedTextColour, &MXCheckbox::getPushedTextColour,
-                          ColourRect(withAlpha(EnabledTextLabelColour, 1.0f)));
+                          ColourRect(opaque(EnabledTextLabelColour)));
     CEGUI_DEFINE_PROPERTY(MXCheckbox, ColourRect, "DisabledTextColour",
                           "Property to get/set the label's colour while disabled. Value is "
                           "\"aarrggbb\".",
                           &MXCheckbox::setDisabledTextColour, &MXCheckbox::getDisabledTextColour,
-                          ColourRect(withAlpha(DisabledTextLabelColour, 1.0f)));
+                          ColourRect(opaque(DisabledTextLabelColour)));
 }
 
 void MXCheckbox::setLabelColour(ColourRect& slot, const ColourRect& colours)

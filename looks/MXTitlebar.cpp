@@ -26,7 +26,7 @@ MXTitlebar::MXTitlebar(const String& type, const String& name)
                           "Property to get/set the caption's colours. Value is \"aarrggbb\" or "
                           "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
                           &MXTitlebar::setCaptionColour, &MXTitlebar::getCaptionColour,
-                          ColourRect(withAlpha(ActiveTextColour, 1.0f)));
+                          ColourRect(opaque(ActiveTextColour)));
 }
 
 void MXTitlebar::setCaptionColour(const ColourRect& colours)
@@ -37,7 +37,7 @@ void MXTitlebar::setCaptionColour(const ColourRect& colours)
 
 ColourRect MXTitlebar::getCaptionColour() const
 {
-    return d_captionColour.value_or(ColourRect(withAlpha(ActiveTextColour, 1.0f)));
+    return d_captionColour.value_or(ColourRect(opaque(ActiveTextColour)));
 }
 
 float MXTitlebar::barHeight() const
