@@ -5,6 +5,7 @@
 // while unfocused).
 #pragma once
 
+#include "draw/Imagery.h"
 #include "draw/NinePieceFrame.h"
 #include "draw/TextDrawing.h"
 
@@ -127,11 +128,6 @@ template <typename Owner>
 void addEditboxColourProperties(Owner& owner)
 {
     using Colours = EditboxImagery::StockColours;
-    auto opaque = [](Colour colour)
-    {
-        colour.setAlpha(1.0f);
-        return colour;
-    };
     static EditboxColourProperty<Owner> properties[] = {
         {"NormalTextColour", &Colours::normalText, opaque(EditboxImagery::TextColour)},
         {"SelectedTextColour", &Colours::selectedText, opaque(EditboxImagery::SelectedTextColour)},

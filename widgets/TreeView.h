@@ -162,7 +162,7 @@ public:
             bool several = false;
         };
         //! UpdateHoveringState's walk, without asking for the tree at every node.
-        Node* updateHover(const Vector2f& point, Flagged& flagged);
+        Node* updateHover(const Vector2f& point, float rowRight, Flagged& flagged);
         void SetVisible(bool visible);
         //! Takes `child` out of the children, telling the tree.
         void eraseChild(Children::iterator child);

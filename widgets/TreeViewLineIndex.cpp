@@ -54,17 +54,14 @@ double TreeView::LineIndex::topOf(Position at) const
 TreeView::LineIndex::Position TreeView::LineIndex::find(const LineChunk& chunk,
                                                         float relativeTop) const
 {
-    const auto owner = std::find_if(d_chunks.begin(), d_chunks.end(),
-                                    [&chunk](const auto& c) { return c.get() == &chunk; });
-    if (owner == d_chunks.end())
+    if (chunk.index >= d_chunks.size() || d_chunks[chunk.index].get() != &chunk)
         return end();
     const auto& lines = chunk.lines;
     const auto line = std::lower_bound(lines.begin(), lines.end(), relativeTop,
                                        [](const Line& l, float top) { return l.y < top; });
     if (line == lines.end() || line->y != relativeTop)
         return end();
-    return Position{static_cast<std::size_t>(owner - d_chunks.begin()),
-                    static_cast<std::size_t>(line - lines.begin())};
+    return Position{chunk.index, static_cast<std::size_t>(line - lines.begin())};
 }
 
 TreeView::LineIndex::Position TreeView::LineIndex::firstEndingAfter(double y, bool inclusive) const
@@ -167,6 +164,7 @@ void TreeView::LineIndex::replace(Position first, Position last, std::vector<Lin
     double y = top;
     for (std::size_t c = from; c < d_chunks.size(); ++c)
     {
+        d_chunks[c]->index = c;
         d_chunks[c]->top = y;
         y += d_chunks[c]->height;
     }

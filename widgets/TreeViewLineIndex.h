@@ -19,7 +19,8 @@ struct TreeView::LineChunk
     std::vector<Line> lines; //!< tops relative to `top`
     double top = 0;
     float height = 0;
-    float right = 0; //!< the widest line's text end
+    float right = 0;       //!< the widest line's text end
+    std::size_t index = 0; //!< its place among the chunks
 };
 
 class TreeView::LineIndex

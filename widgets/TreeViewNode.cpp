@@ -265,8 +265,10 @@ TreeView::Node* TreeView::Node::GetNodeAt(const Vector2f& point, bool& onNavigat
 TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
 {
     Flagged flagged;
-    Node* found = updateHover(point, flagged);
-    if (TreeView* owner = tree())
+    TreeView* owner = tree();
+    const float rowRight = owner ? owner->rowHitRight() : -std::numeric_limits<float>::infinity();
+    Node* found = updateHover(point, rowRight, flagged);
+    if (owner)
     {
         // From the root, the flags are now exactly as this walk left them, one node at most
         // (overlapping rectangles can leave several); from below it, a flag elsewhere may
@@ -278,14 +280,14 @@ TreeView::Node* TreeView::Node::UpdateHoveringState(const Vector2f& point)
     return found;
 }
 
-TreeView::Node* TreeView::Node::updateHover(const Vector2f& point, Flagged& flagged)
+TreeView::Node* TreeView::Node::updateHover(const Vector2f& point, float rowRight, Flagged& flagged)
 {
     bool onNavigator = false;
-    Node* found = GetNodeAt(point, onNavigator);
+    Node* found = hitTest(point, onNavigator, rowRight);
     d_hovered = false;
     Node* last = nullptr;
     for (const auto& child : d_children)
-        if (Node* result = child->updateHover(point, flagged))
+        if (Node* result = child->updateHover(point, rowRight, flagged))
             last = result;
     if (found)
     {
