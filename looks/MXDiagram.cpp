@@ -73,11 +73,13 @@ void MXMeasurement::drawInterval(const Rectf& v, const Rectf& p, bool stacked, i
     renderMirrored(buffer, *d_corner, cap, &clip, colours);
 }
 
-void MXMeasurement::drawColumn(const Rectf& area, const Rectf& graph)
+void MXMeasurement::drawColumns(const std::vector<Rectf>& areas, const Rectf& graph)
 {
     Diagram& owner = *getOwner();
-    renderMirrored(owner.getGeometryBuffer(), *d_base, area, &graph,
-                   faded(ColourRect(getColour()), owner.getEffectiveAlpha()));
+    const ColourRect colours = faded(ColourRect(getColour()), owner.getEffectiveAlpha());
+    GeometryBuffer& buffer = owner.getGeometryBuffer();
+    for (const Rectf& area : areas)
+        renderMirrored(buffer, *d_base, area, &graph, colours);
 }
 
 Window* MXMeasurement::createLegendItem()

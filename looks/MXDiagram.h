@@ -24,7 +24,7 @@ public:
 
     void draw(const Rectf& valueArea, const Rectf& pixelArea, bool superImposed) override;
     //! The base image alone: a column narrower than a pixel shows no slope.
-    void drawColumn(const Rectf& area, const Rectf& graph) override;
+    void drawColumns(const std::vector<Rectf>& areas, const Rectf& graph) override;
     Window* createLegendItem() override;
 
 private:

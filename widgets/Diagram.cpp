@@ -677,21 +677,21 @@ void Diagram::drawMergedColumns(const Rectf& graph, const Sizef& unit, float yMa
     const float height = span * unit.d_height;
     auto row = [&](float y) { return bottom - height * ((y - yMin) / span); };
     const float zero = row(0.0f);
+    std::vector<Rectf> areas;
     for (std::size_t m = 0; m < d_model.measurements.size(); ++m)
     {
-        Measurement& measurement = *d_model.measurements[m];
+        areas.clear();
         ColumnSpan column;
         for (long c = first; c < last; ++c)
         {
             if (!columnSpan(series[m], placement, c, column))
                 continue;
             if (column.high > 0)
-                measurement.drawColumn(Rectf(column.left, row(column.high), column.right, zero),
-                                       graph);
+                areas.emplace_back(column.left, row(column.high), column.right, zero);
             if (column.low < 0)
-                measurement.drawColumn(Rectf(column.left, row(column.low), column.right, zero),
-                                       graph);
+                areas.emplace_back(column.left, row(column.low), column.right, zero);
         }
+        d_model.measurements[m]->drawColumns(areas, graph);
     }
     // The intervals those columns stand for.
     const double shownFrom = std::max(0.0, std::floor((graph.left() - firstLeft) / unit.d_width));

@@ -44,10 +44,10 @@ public:
     //! Draws one sample interval: values `valueArea` (left, right x; top the y maximum,
     //! bottom the y minimum) over pixels `pixelArea` (window-local).
     virtual void draw(const Rectf& valueArea, const Rectf& pixelArea, bool superImposed) = 0;
-    //! Draws one pixel column that stands for the several intervals in it: `area` runs from
-    //! the zero line to the farthest value reached (given upside down below the line),
+    //! Draws pixel columns that each stand for the several intervals in them: each area runs
+    //! from the zero line to the farthest value reached (given upside down below the line),
     //! clipped to `graph`.
-    virtual void drawColumn(const Rectf& area, const Rectf& graph) = 0;
+    virtual void drawColumns(const std::vector<Rectf>& areas, const Rectf& graph) = 0;
     virtual Window* createLegendItem() = 0;
 
     const String& getName() const { return d_name; }
