@@ -27,7 +27,7 @@ std::array<const char*, NinePieceFrame::PieceCount> listFramePieces()
 } // namespace
 
 MXItemListbox::MXItemListbox(const String& type, const String& name)
-    : RedrawnWhenUncovered<ItemListbox>(type, name)
+    : RedrawnWhenUncovered<ItemListbox>(type, name), d_fill(&lookImage(MXListbox::FillImageName))
 {
     setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
     setWindowRenderer(MXItemListRenderer::TypeName);
@@ -103,7 +103,7 @@ void MXItemListbox::drawList()
     GeometryBuffer& buffer = getGeometryBuffer();
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
-    lookImage(MXListbox::FillImageName).render(buffer, d_frame.innerRect(area), nullptr, white);
+    d_fill->render(buffer, d_frame.innerRect(area), nullptr, white);
     d_frame.setSize(area.getSize());
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
@@ -115,7 +115,9 @@ const Colour MXListboxItem::SelectedTextColour(0x0026313D);
 const Colour MXListboxItem::DisabledTextColour(0x00888888);
 
 MXListboxItem::MXListboxItem(const String& type, const String& name)
-    : RedrawnWhenUncovered<ItemEntry>(type, name)
+    : RedrawnWhenUncovered<ItemEntry>(type, name),
+      d_ownSelectionBrush(&lookImage(ListDrawing::SelectionBrushImageName)),
+      d_hoverBrush(&lookImage(ListDrawing::HoverBrushImageName))
 {
     setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
     setWindowRenderer(MXMenuItemRenderer::TypeName);
@@ -187,7 +189,7 @@ void MXListboxItem::setSelectionBrush(const Image* image)
 
 const Image* MXListboxItem::getSelectionBrush() const
 {
-    return d_selectionBrush ? d_selectionBrush : &lookImage(ListDrawing::SelectionBrushImageName);
+    return d_selectionBrush ? d_selectionBrush : d_ownSelectionBrush;
 }
 
 Sizef MXListboxItem::itemPixelSize() const
@@ -211,8 +213,8 @@ void MXListboxItem::drawItem()
     if (selected)
         getSelectionBrush()->render(buffer, area, nullptr, faded(getSelectionColour(), alpha));
     else if (d_hovered)
-        lookImage(ListDrawing::HoverBrushImageName)
-            .render(buffer, area, nullptr, withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+        d_hoverBrush->render(buffer, area, nullptr,
+                             withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     const Font* font = getFont();
     if (!font)
         return;

@@ -46,6 +46,7 @@ private:
     //! The bars' shown and hidden events, let go with the look.
     std::array<Event::ScopedConnection, 4> d_barWatches;
     NinePieceFrame d_frame;
+    const Image* d_fill; //!< fetched once
 };
 
 class MXListboxItem : public RedrawnWhenUncovered<ItemEntry>, public MenuItemLook
@@ -87,6 +88,8 @@ private:
     std::optional<ColourRect> d_selectedTextColour;
     std::optional<ColourRect> d_selectionColour;
     const Image* d_selectionBrush = nullptr;
+    const Image* d_ownSelectionBrush; //!< fetched once, as the hover brush
+    const Image* d_hoverBrush;
 };
 
 using MXItemListboxFactory = LookFactory<MXItemListbox>;

@@ -48,7 +48,9 @@ const WidgetLookFeel& buttonLook()
 
 const Colour MXTree::SelectionColour(0xFF3B78D8);
 
-MXTree::MXTree(const String& type, const String& name) : RedrawnWhenUncovered<Tree>(type, name)
+MXTree::MXTree(const String& type, const String& name)
+    : RedrawnWhenUncovered<Tree>(type, name), d_fill(&lookImage(FillImageName)),
+      d_brush(&lookImage(SelectionBrushImageName))
 {
     setMouseCursor(&lookImage(MXListbox::MouseCursorImageName));
     d_frame.setImages({"StaticFrameListTopLeft", "StaticFrameListTopRight",
@@ -141,7 +143,7 @@ void MXTree::cacheTreeBaseImagery()
     GeometryBuffer& buffer = getGeometryBuffer();
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
-    lookImage(FillImageName).render(buffer, d_frame.innerRect(area), nullptr, white);
+    d_fill->render(buffer, d_frame.innerRect(area), nullptr, white);
     d_frame.setSize(area.getSize());
     d_frame.setColours(faded(d_frameColours, getEffectiveAlpha()));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
@@ -165,7 +167,7 @@ void MXTree::styleItems(const std::vector<TreeItem*>& items)
     for (TreeItem* item : items)
     {
         if (!item->getSelectionBrushImage())
-            item->setSelectionBrushImage(&lookImage(SelectionBrushImageName));
+            item->setSelectionBrushImage(d_brush);
         // CEGUI's default indigo tint sinks into the dark field: the accent blue instead.
         const ColourRect& tint = item->getSelectionColours();
         if (tint.d_top_left == TreeItem::DefaultSelectionColour &&

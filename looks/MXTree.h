@@ -63,6 +63,8 @@ private:
     //! The bars' shown and hidden events, let go with the look.
     std::array<Event::ScopedConnection, 4> d_barWatches;
     NinePieceFrame d_frame;
+    const Image* d_fill;  //!< fetched once
+    const Image* d_brush; //!< the items' selection brush, fetched once
     ColourRect d_frameColours{Colour(0xFFFFFFFF)};
 };
 
