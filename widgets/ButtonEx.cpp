@@ -268,13 +268,28 @@ void ButtonEx::CancelDrag()
 {
     if (!d_dragging)
         return;
-    setPosition(d_positionBeforeDrag);
-    setDragging(false);
     d_mouseHeld = false;
     d_dragCancelled = true;
-    DragEventArgs cancelled(this, nullptr);
-    fireEvent(EventDropCancelled, cancelled, "");
-    MXSoundification::GetInstance().PlaySound(this, d_cancelSound);
+    endDrag(false);
+}
+
+void ButtonEx::endDrag(bool dropHere)
+{
+    setPosition(d_positionBeforeDrag);
+    setDragging(false);
+    Window* target = dropHere ? dropTargetUnderCursor(*this, d_dropTargets) : nullptr;
+    if (target)
+    {
+        DragEventArgs dropped(this, target);
+        target->fireEvent(EventDropped, dropped, "");
+        MXSoundification::GetInstance().PlaySound(this, d_dropSound);
+    }
+    else
+    {
+        DragEventArgs cancelled(this, nullptr);
+        fireEvent(EventDropCancelled, cancelled, "");
+        MXSoundification::GetInstance().PlaySound(this, d_cancelSound);
+    }
     setEnabled(true);
 }
 
@@ -294,23 +309,7 @@ bool ButtonEx::MouseUp(const EventArgs& args)
             MXSoundification::GetInstance().PlaySound(this, d_clickSound);
         return false;
     }
-
-    setPosition(d_positionBeforeDrag);
-    setDragging(false);
-    Window* target = dropTargetUnderCursor(*this, d_dropTargets);
-    if (target)
-    {
-        DragEventArgs dropped(this, target);
-        target->fireEvent(EventDropped, dropped, "");
-        MXSoundification::GetInstance().PlaySound(this, d_dropSound);
-    }
-    else
-    {
-        DragEventArgs cancelled(this, nullptr);
-        fireEvent(EventDropCancelled, cancelled, "");
-        MXSoundification::GetInstance().PlaySound(this, d_cancelSound);
-    }
-    setEnabled(true);
+    endDrag(true);
     return true;
 }
 

@@ -139,6 +139,9 @@ private:
                    FormattedImage& customImage, const Colour& imageryColour,
                    const Colour& textColour);
     void setDragging(bool on);
+    //! Back in place; dropped on the target under the pointer if `dropHere` finds one, else
+    //! cancelled. Events and sounds as the drop or cancel.
+    void endDrag(bool dropHere);
     bool MouseDown(const EventArgs& args);
     bool MouseMove(const EventArgs& args);
     bool MouseUp(const EventArgs& args);

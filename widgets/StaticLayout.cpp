@@ -483,24 +483,14 @@ void StaticLayout::CancelDrag()
         return;
     d_armed = false;
     d_accumulatedMovement = 0;
-    setPosition(d_positionBeforeDrag);
-    setDragging(false);
-    DragEventArgs cancelled(this, nullptr);
-    fireEvent(EventDropCancelled, cancelled, "");
-    setEnabled(true);
+    endDrag(false);
 }
 
-bool StaticLayout::MouseUp(const EventArgs&)
+void StaticLayout::endDrag(bool dropHere)
 {
-    d_armed = false;
-    d_accumulatedMovement = 0;
-    if (!d_dragAuthorised || !d_dragging)
-        return true;
-
     setPosition(d_positionBeforeDrag);
     setDragging(false);
-
-    Window* target = dropTargetUnderCursor(*this, d_dropTargets);
+    Window* target = dropHere ? dropTargetUnderCursor(*this, d_dropTargets) : nullptr;
     if (target)
     {
         DragEventArgs dropped(this, target);
@@ -512,6 +502,15 @@ bool StaticLayout::MouseUp(const EventArgs&)
         fireEvent(EventDropCancelled, cancelled, "");
     }
     setEnabled(true);
+}
+
+bool StaticLayout::MouseUp(const EventArgs&)
+{
+    d_armed = false;
+    d_accumulatedMovement = 0;
+    if (!d_dragAuthorised || !d_dragging)
+        return true;
+    endDrag(true);
     return true;
 }
 

@@ -112,6 +112,9 @@ private:
     void borderLayout(const Rectf& area);
 
     void setDragging(bool on);
+    //! Back in place; dropped on the target under the pointer if `dropHere` finds one, else
+    //! cancelled.
+    void endDrag(bool dropHere);
     bool MouseDown(const EventArgs& args);
     bool MouseMove(const EventArgs& args);
     bool MouseUp(const EventArgs& args);
