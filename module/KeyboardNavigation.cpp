@@ -193,18 +193,17 @@ void setRing(ContextState& state, Window* widget, bool shown)
         if (owner)
         {
             ContextState* kept = &state;
-            state.drawn = owner->subscribeEvent(
-                Window::EventRenderingEnded,
-                [owner, kept](const EventArgs&)
-                {
-                    // Only while the widget still has the focus and can take it.
-                    Window* focusedOne = kept->ringWidget;
-                    if (kept->ringShown && kept->ringOwner == owner && focusedOne &&
-                        isFocusable(*focusedOne) &&
-                        focusedWidget(focusedOne->getGUIContext()) == focusedOne)
-                        drawRing(*owner);
-                    return false;
-                });
+            state.drawn =
+                owner->subscribeEvent(Window::EventRenderingEnded,
+                                      [owner, kept](const EventArgs&)
+                                      {
+                                          // Only while the widget still has the focus and can take
+                                          // it.
+                                          if (kept->ringOwner == owner && kept->ringWidget &&
+                                              hasFocusRing(*kept->ringWidget))
+                                              drawRing(*owner);
+                                          return false;
+                                      });
             state.left = widget->subscribeEvent(Window::EventDeactivated,
                                                 [owner](const EventArgs&)
                                                 {
