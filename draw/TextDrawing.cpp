@@ -1,13 +1,18 @@
 #include "draw/TextDrawing.h"
 
+#include "draw/GlyphRun.h"
+
 #include <CEGUI/CentredRenderedString.h>
+#include <CEGUI/Font.h>
 #include <CEGUI/JustifiedRenderedString.h>
 #include <CEGUI/LeftAlignedRenderedString.h>
+#include <CEGUI/RenderedStringTextComponent.h>
 #include <CEGUI/RenderedStringWordWrapper.h>
 #include <CEGUI/RightAlignedRenderedString.h>
 #include <CEGUI/Window.h>
 #include <cmath>
 #include <memory>
+#include <vector>
 
 namespace CEGUI
 {
@@ -84,21 +89,132 @@ String nameOf(VertTextFormat format)
     return VertNames[static_cast<int>(format)];
 }
 
-float drawText(const Window& window, GeometryBuffer& buffer, const RenderedString& text,
-               const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
-               const ColourRect& colours, const Rectf* clip)
+namespace
 {
-    auto formatted = formatterFor(text, horz);
-    formatted->format(&window, area.getSize());
-    const float height = formatted->getVerticalExtent(&window);
+// What CEGUI keeps to itself of a rendered string and its text pieces.
+struct RenderedStringParts : RenderedString
+{
+    static constexpr ComponentList RenderedString::*Components = &RenderedStringParts::d_components;
+};
+struct TextPieceParts : RenderedStringTextComponent
+{
+    static constexpr const Image* RenderedStringComponent::*SelectionImage =
+        &TextPieceParts::d_selectionImage;
+    static constexpr std::size_t RenderedStringTextComponent::*SelectionLength =
+        &TextPieceParts::d_selectionLength;
+};
 
+struct TextPiece
+{
+    const RenderedStringTextComponent* component;
+    const Font* font;
+    Sizef size;
+};
+
+// One line of plain text pieces (a label without images, line breaks or a selection: what
+// nearly every label is), measured as CEGUI measures it. False for anything else.
+bool measureOneLine(const Window& window, const RenderedString& text,
+                    std::vector<TextPiece>& pieces, Sizef& line)
+{
+    if (text.getLineCount() != 1)
+        return false;
+    pieces.clear();
+    line = Sizef(0.0f, 0.0f);
+    for (const RenderedStringComponent* component : text.*RenderedStringParts::Components)
+    {
+        const auto* piece = dynamic_cast<const RenderedStringTextComponent*>(component);
+        if (!piece || piece->getVerticalFormatting() > VF_STRETCHED ||
+            (piece->*TextPieceParts::SelectionImage && piece->*TextPieceParts::SelectionLength))
+            return false;
+        const Font* font = piece->getFont() ? piece->getFont() : window.getFont(true);
+        const Rectf& padding = piece->getPadding();
+        Sizef size(padding.d_min.d_x + padding.d_max.d_x, padding.d_min.d_y + padding.d_max.d_y);
+        if (font)
+        {
+            size.d_width += glyphExtent(*font, piece->getText());
+            size.d_height += font->getFontHeight();
+        }
+        line.d_width += size.d_width;
+        line.d_height = std::max(line.d_height, size.d_height);
+        pieces.push_back({piece, font, size});
+    }
+    return true;
+}
+
+// CEGUI's formatters and text pieces, for one line: each piece placed in the line's height
+// by its own vertical formatting, its colours modulated, its glyphs from the glyph table.
+void drawOneLine(GeometryBuffer& buffer, const std::vector<TextPiece>& pieces, float lineHeight,
+                 Vector2f position, const ColourRect& colours, const Rectf* clip)
+{
+    for (const TextPiece& piece : pieces)
+    {
+        if (piece.font)
+        {
+            Vector2f at(position);
+            float yScale = 1.0f;
+            switch (piece.component->getVerticalFormatting())
+            {
+            case VF_BOTTOM_ALIGNED:
+                at.d_y += lineHeight - piece.size.d_height;
+                break;
+            case VF_CENTRE_ALIGNED:
+                at.d_y += (lineHeight - piece.size.d_height) * 0.5f;
+                break;
+            case VF_STRETCHED:
+                yScale = lineHeight / piece.size.d_height;
+                break;
+            case VF_TOP_ALIGNED:
+            case VF_TILED: // refused when measured
+                break;
+            }
+            at += piece.component->getPadding().getPosition();
+            ColourRect pieceColours(piece.component->getColours());
+            pieceColours *= colours;
+            drawGlyphs(buffer, *piece.font, piece.component->getText(), at, clip, pieceColours,
+                       0.0f, 1.0f, yScale);
+        }
+        position.d_x += piece.size.d_width;
+    }
+}
+
+bool isOneLineFormat(HorzTextFormat horz)
+{
+    return horz == HorzTextFormat::Left || horz == HorzTextFormat::Right ||
+           horz == HorzTextFormat::Centred;
+}
+
+Vector2f placed(const Rectf& area, float height, VertTextFormat vert)
+{
     Vector2f position = area.d_min;
     if (vert == VertTextFormat::Centred)
         position.d_y += std::floor((area.getHeight() - height) * 0.5f);
     else if (vert == VertTextFormat::Bottom)
         position.d_y = area.bottom() - height;
+    return position;
+}
+} // namespace
 
-    formatted->draw(&window, buffer, position, &colours, clip);
+float drawText(const Window& window, GeometryBuffer& buffer, const RenderedString& text,
+               const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
+               const ColourRect& colours, const Rectf* clip)
+{
+    static std::vector<TextPiece> pieces;
+    Sizef line;
+    if (isOneLineFormat(horz) && measureOneLine(window, text, pieces, line))
+    {
+        Vector2f position = placed(area, line.d_height, vert);
+        if (horz == HorzTextFormat::Right)
+            position.d_x += area.getWidth() - line.d_width;
+        else if (horz == HorzTextFormat::Centred)
+            position.d_x += (area.getWidth() - line.d_width) * 0.5f;
+        drawOneLine(buffer, pieces, line.d_height, position, colours, clip);
+        return line.d_height;
+    }
+
+    auto formatted = formatterFor(text, horz);
+    formatted->format(&window, area.getSize());
+    const float height = formatted->getVerticalExtent(&window);
+    formatted->draw(&window, buffer, placed(area, height, vert), &colours, clip);
     return height;
 }
 

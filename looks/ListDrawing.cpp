@@ -1,5 +1,6 @@
 #include "looks/ListDrawing.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 
@@ -107,7 +108,7 @@ void ListDrawing::drawItem(const ListboxItem& item, GeometryBuffer& buffer, cons
     const float lead = std::round((font->getLineSpacing() - font->getFontHeight()) / 2);
     ColourRect colours = text->getTextColours();
     colours.modulateAlpha(alpha);
-    font->drawText(buffer, words, Vector2f(rect.left(), rect.top() + lead), clip, colours);
+    drawGlyphs(buffer, *font, words, Vector2f(rect.left(), rect.top() + lead), clip, colours);
 }
 
 void ListDrawing::styleItem(ListboxItem& item, const Image* brush)

@@ -1,5 +1,6 @@
 #include "looks/MXEditbox.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 
 #include <CEGUI/CoordConverter.h>
@@ -94,7 +95,7 @@ void MXEditbox::populateGeometryBuffer()
     {
         ColourRect colours(getPlaceholderTextColour());
         colours.modulateAlpha(alpha);
-        font->drawText(buffer, getPlaceholderText(), Vector2f(area.left(), top), &area, colours);
+        drawGlyphs(buffer, *font, getPlaceholderText(), Vector2f(area.left(), top), &area, colours);
         d_textOffset = 0;
         return;
     }
@@ -121,10 +122,10 @@ void MXEditbox::populateGeometryBuffer()
     const ColourRect normal = d_imagery.textColour(isReadOnly(), disabled, alpha);
     const ColourRect selected = d_imagery.selectedTextColour(alpha);
     float x = left;
-    x = font->drawText(buffer, text.substr(0, selStart), Vector2f(x, top), &area, normal);
-    x = font->drawText(buffer, text.substr(selStart, selEnd - selStart), Vector2f(x, top), &area,
-                       selEnd > selStart ? selected : normal);
-    font->drawText(buffer, text.substr(selEnd), Vector2f(x, top), &area, normal);
+    x = drawGlyphs(buffer, *font, text.substr(0, selStart), Vector2f(x, top), &area, normal);
+    x = drawGlyphs(buffer, *font, text.substr(selStart, selEnd - selStart), Vector2f(x, top), &area,
+                   selEnd > selStart ? selected : normal);
+    drawGlyphs(buffer, *font, text.substr(selEnd), Vector2f(x, top), &area, normal);
 
     if (focused && !isReadOnly() && !disabled && d_blink.shown)
     {

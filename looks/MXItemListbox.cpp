@@ -1,5 +1,6 @@
 #include "looks/MXItemListbox.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
@@ -223,7 +224,7 @@ void MXListboxItem::drawItem()
                                : selected ? faded(getSelectedTextColour(), alpha)
                                           : faded(getTextColour(), alpha);
     const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-    font->drawText(buffer, getTextVisual(), Vector2f(HorzPadding, top), nullptr, colours);
+    drawGlyphs(buffer, *font, getTextVisual(), Vector2f(HorzPadding, top), nullptr, colours);
 }
 
 void MXListboxItem::onMouseEnters(MouseEventArgs& e)

@@ -1,5 +1,6 @@
 #include "looks/MXMenus.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 
 #include <CEGUI/Font.h>
@@ -345,8 +346,8 @@ void MXMenubarItem::drawBarItem(MenuItem& item, const MenuItemTints& tints)
     if (const Font* font = item.getFont())
     {
         const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-        font->drawText(item.getGeometryBuffer(), item.getTextVisual(), Vector2f(HorzPadding, top),
-                       nullptr, tints.textColours(item, state));
+        drawGlyphs(item.getGeometryBuffer(), *font, item.getTextVisual(),
+                   Vector2f(HorzPadding, top), nullptr, tints.textColours(item, state));
     }
 }
 
@@ -431,8 +432,8 @@ void MXPopupMenuItem::drawItem()
     if (const Font* font = getFont())
     {
         const float top = std::floor((area.getHeight() - font->getLineSpacing()) * 0.5f);
-        font->drawText(buffer, getTextVisual(), Vector2f(CheckColumn, top), nullptr,
-                       textColours(*this, state));
+        drawGlyphs(buffer, *font, getTextVisual(), Vector2f(CheckColumn, top), nullptr,
+                   textColours(*this, state));
     }
 }
 

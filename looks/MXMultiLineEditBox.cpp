@@ -1,5 +1,6 @@
 #include "looks/MXMultiLineEditBox.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
@@ -149,7 +150,7 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
         const std::size_t lineEnd = line.d_startIdx + line.d_length;
         if (selEnd <= line.d_startIdx || selStart >= lineEnd || selStart == selEnd)
         {
-            font->drawText(buffer, lineText, Vector2f(left, top), &area, normal);
+            drawGlyphs(buffer, *font, lineText, Vector2f(left, top), &area, normal);
             continue;
         }
         const std::size_t from = std::max(selStart, line.d_startIdx) - line.d_startIdx;
@@ -158,10 +159,10 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
         const float toX = left + font->getTextAdvance(lineText.substr(0, to));
         selection.render(buffer, Rectf(fromX, top, toX, top + spacing), &area, brush);
         float x =
-            font->drawText(buffer, lineText.substr(0, from), Vector2f(left, top), &area, normal);
-        x = font->drawText(buffer, lineText.substr(from, to - from), Vector2f(x, top), &area,
-                           selectedText);
-        font->drawText(buffer, lineText.substr(to), Vector2f(x, top), &area, normal);
+            drawGlyphs(buffer, *font, lineText.substr(0, from), Vector2f(left, top), &area, normal);
+        x = drawGlyphs(buffer, *font, lineText.substr(from, to - from), Vector2f(x, top), &area,
+                       selectedText);
+        drawGlyphs(buffer, *font, lineText.substr(to), Vector2f(x, top), &area, normal);
     }
 }
 

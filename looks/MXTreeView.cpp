@@ -1,5 +1,6 @@
 #include "looks/MXTreeView.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/MXScrollablePane.h"
@@ -50,7 +51,7 @@ float renderTreeLine(TreeView::Node& node, GeometryBuffer& buffer, const TreeVie
     {
         ColourRect colours(tree.GetColour(node.IsLeaf(), node.IsSelected(), node.IsHovered()));
         colours.modulateAlpha(alpha);
-        font->drawText(buffer, node.GetText(), Vector2f(x, line.y), &clip, colours);
+        drawGlyphs(buffer, *font, node.GetText(), Vector2f(x, line.y), &clip, colours);
     }
     return x;
 }

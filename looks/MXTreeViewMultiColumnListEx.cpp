@@ -1,5 +1,6 @@
 #include "looks/MXTreeViewMultiColumnListEx.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "looks/MXListHeader.h"
@@ -55,8 +56,8 @@ void MXNodeIndex::Render(GeometryBuffer& buffer, const TreeView::Line& line, con
         const Rectf cell = columnClip(column);
         if (cell.getWidth() <= 0)
             continue;
-        font->drawText(
-            buffer, text,
+        drawGlyphs(
+            buffer, *font, text,
             Vector2f(originX + list.getColumnLeft(column) + TreeViewMultiColumnListEx::CellPadding,
                      line.y),
             &cell, colours);

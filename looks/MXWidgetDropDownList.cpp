@@ -1,5 +1,6 @@
 #include "looks/MXWidgetDropDownList.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "looks/AutoParts.h"
 #include "widgets/ButtonEx.h"
@@ -88,8 +89,8 @@ void MXWidgetDropDownList::DrawItem(const Window& window, GeometryBuffer& buffer
     if (const Font* font = window.getFont())
     {
         const float top = row.top() + std::floor((row.getHeight() - font->getLineSpacing()) * 0.5f);
-        font->drawText(buffer, item.text, Vector2f(x, top), &clip,
-                       ColourRect(withAlpha(selected ? SelectedTextColour : TextColour, alpha)));
+        drawGlyphs(buffer, *font, item.text, Vector2f(x, top), &clip,
+                   ColourRect(withAlpha(selected ? SelectedTextColour : TextColour, alpha)));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "module/FactoryTable.h"
 
+#include "draw/GlyphRun.h"
 #include "looks/MXButton.h"
 #include "looks/MXButtonEx.h"
 #include "looks/MXClock.h"
@@ -254,7 +255,10 @@ void removeFromCegui(const FactoryEntry& entry)
     if (std::none_of(std::begin(k_table), std::end(k_table),
                      [&windows](const FactoryEntry& e)
                      { return windows.isFactoryPresent(e.typeName); }))
+    {
         detachKeyboardNavigation();
+        forgetGlyphTables();
+    }
     if (!entry.renderer)
         return;
     for (const FactoryEntry& other : k_table)

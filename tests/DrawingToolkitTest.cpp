@@ -1,13 +1,19 @@
 #include "draw/FormattedImage.h"
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "draw/NinePieceFrame.h"
 #include "draw/TextDrawing.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
 
+#include <CEGUI/CentredRenderedString.h>
 #include <CEGUI/Font.h>
+#include <CEGUI/FontManager.h>
+#include <CEGUI/LeftAlignedRenderedString.h>
+#include <CEGUI/RightAlignedRenderedString.h>
 #include <CEGUI/Window.h>
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -121,4 +127,124 @@ TEST(TextDrawing, WrapsAndPlacesTextVertically)
     EXPECT_LT(atTop.rect.top(), line);
     // Glyphs land on whole pixels.
     EXPECT_NEAR(atBottom.rect.top() - atTop.rect.top(), 200 - wrapped.d_height, 1.0f);
+}
+
+namespace
+{
+std::vector<Vertex> verticesOf(const RecordingGeometryBuffer& buffer)
+{
+    std::vector<Vertex> all;
+    for (const RecordingGeometryBuffer::Batch& batch : buffer.batches())
+        all.insert(all.end(), batch.vertices.begin(), batch.vertices.end());
+    return all;
+}
+
+// The same vertices, bit for bit: the same arithmetic must have made them.
+void expectSameVertices(const RecordingGeometryBuffer& cegui, const RecordingGeometryBuffer& ours,
+                        const std::string& what)
+{
+    const std::vector<Vertex> expected = verticesOf(cegui), drawn = verticesOf(ours);
+    ASSERT_EQ(drawn.size(), expected.size()) << what;
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+    {
+        EXPECT_EQ(drawn[i].position, expected[i].position) << what << " vertex " << i;
+        EXPECT_EQ(drawn[i].tex_coords, expected[i].tex_coords) << what << " vertex " << i;
+        EXPECT_EQ(drawn[i].colour_val.getARGB(), expected[i].colour_val.getARGB())
+            << what << " vertex " << i;
+    }
+}
+} // namespace
+
+TEST(GlyphRun, DrawsWhatCeguisFontDrawsAndFollowsAResizedFont)
+{
+    moxietest::freshSheet();
+    const ColourRect gradient(Colour(0xFF102030), Colour(0x80405060), Colour(0xFF708090),
+                              Colour(0x40A0B0C0));
+    const Rectf cutting(13.5f, 9.0f, 60.25f, 17.0f), away(500, 500, 600, 600);
+    struct Scaling
+    {
+        float spaceExtra, x, y;
+    };
+    auto compareAll = [&](const Font& font)
+    {
+        for (const String& text : {String("Hello, World"), String("  spaced  out "),
+                                   String((const utf8*)"\xc3\x84\xc3\xb6 \xe2\x82\xac\xc3\x9f"),
+                                   String((const utf8*)"x\xe4\xb8\xad\x01y"), String("")})
+        {
+            EXPECT_EQ(glyphExtent(font, text), font.getTextExtent(text)) << text;
+            for (const Rectf* clip : {static_cast<const Rectf*>(nullptr), &cutting, &away})
+                for (const Scaling scaling : {Scaling{0, 1, 1}, Scaling{2.5f, 1.5f, 0.75f}})
+                {
+                    RecordingGeometryBuffer cegui, ours;
+                    const Vector2f at(10.3f, 7.6f);
+                    const float ceguiEnd = font.drawText(cegui, text, at, clip, gradient,
+                                                         scaling.spaceExtra, scaling.x, scaling.y);
+                    const float ourEnd = drawGlyphs(ours, font, text, at, clip, gradient,
+                                                    scaling.spaceExtra, scaling.x, scaling.y);
+                    const std::string what = font.getName().c_str() + std::string(": ") +
+                                             text.c_str() + (clip ? " clipped" : "");
+                    EXPECT_EQ(ourEnd, ceguiEnd) << what;
+                    expectSameVertices(cegui, ours, what);
+                }
+        }
+    };
+    auto fonts = FontManager::getSingleton().getIterator();
+    ASSERT_FALSE(fonts.isAtEnd());
+    for (; !fonts.isAtEnd(); ++fonts)
+    {
+        Font& font = *fonts.getCurrentValue();
+        compareAll(font);
+        // A new size lays the font's glyphs out anew, freeing the old ones.
+        const String size =
+            font.isPropertyPresent("PointSize") ? font.getProperty("PointSize") : "";
+        if (size.empty())
+            continue;
+        font.setProperty("PointSize", "17");
+        compareAll(font);
+        font.setProperty("PointSize", size);
+        compareAll(font);
+    }
+}
+
+TEST(TextDrawing, OneLineLabelsDrawAsCeguisFormattersDo)
+{
+    moxietest::freshSheet();
+    Window& label = moxietest::place("DefaultWindow", 0, 0, 300, 60);
+    const Rectf area(5.5f, 4, 205, 54), clip(20, 0, 120, 60);
+    const ColourRect tint(Colour(0xC0FFFFFF), Colour(0xFFFF8080), Colour(0xFF80FF80),
+                          Colour(0x80FFFFFF));
+    for (const char* text :
+         {"A plain label", "", "[colour='FFFF0000']red [colour='FF00FF00']green",
+          "[vert-alignment='centre'][padding='l:2 t:3 r:4 b:5']pad[vert-alignment='top'] top "
+          "[vert-alignment='stretch']stretch[vert-alignment='bottom'] bottom",
+          "[image='MoxieLook/IconStar'] beside an image", "two\nlines"})
+    {
+        label.setText(text);
+        const RenderedString& rendered = label.getRenderedString();
+        const std::pair<HorzTextFormat, std::shared_ptr<FormattedRenderedString>> formats[] = {
+            {HorzTextFormat::Left, std::make_shared<LeftAlignedRenderedString>(rendered)},
+            {HorzTextFormat::Right, std::make_shared<RightAlignedRenderedString>(rendered)},
+            {HorzTextFormat::Centred, std::make_shared<CentredRenderedString>(rendered)}};
+        for (const auto& [horz, formatter] : formats)
+            for (const VertTextFormat vert :
+                 {VertTextFormat::Top, VertTextFormat::Centred, VertTextFormat::Bottom})
+                for (const Rectf* within : {static_cast<const Rectf*>(nullptr), &clip})
+                {
+                    RecordingGeometryBuffer cegui, ours;
+                    formatter->format(&label, area.getSize());
+                    const float height = formatter->getVerticalExtent(&label);
+                    Vector2f at = area.d_min;
+                    if (vert == VertTextFormat::Centred)
+                        at.d_y += std::floor((area.getHeight() - height) * 0.5f);
+                    else if (vert == VertTextFormat::Bottom)
+                        at.d_y = area.bottom() - height;
+                    formatter->draw(&label, cegui, at, &tint, within);
+                    EXPECT_EQ(drawText(label, ours, rendered, area, horz, vert, tint, within),
+                              height)
+                        << text;
+                    expectSameVertices(cegui, ours,
+                                       std::string(text) + " as " + nameOf(horz).c_str() + ", " +
+                                           nameOf(vert).c_str());
+                }
+    }
 }

@@ -1,5 +1,6 @@
 #include "widgets/Diagram.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "widgets/StaticLayout.h"
 
@@ -560,16 +561,16 @@ void Diagram::drawLabels(const Rectf& graph)
     {
         // Centred in a box of twice the legend's width.
         const float centre = GetPixelFromValue(Vector2f(x, 0)).d_x;
-        font->drawText(buffer, text, Vector2f(centre - font->getTextExtent(text) * 0.5f, labelTop),
-                       &xBand, white);
+        drawGlyphs(buffer, *font, text,
+                   Vector2f(centre - font->getTextExtent(text) * 0.5f, labelTop), &xBand, white);
     }
     const Rectf yColumn(graph.left() - d_model.yLabelWidth, labelTop, graph.left(), graph.bottom());
     for (const auto& [y, text] : d_model.yLabels)
     {
         // Right-aligned in a box 20 pixels high centred on the value.
         const float top = GetPixelFromValue(Vector2f(0, y)).d_y - 10.0f;
-        font->drawText(buffer, text, Vector2f(graph.left() - font->getTextExtent(text), top),
-                       &yColumn, white);
+        drawGlyphs(buffer, *font, text, Vector2f(graph.left() - font->getTextExtent(text), top),
+                   &yColumn, white);
     }
 }
 

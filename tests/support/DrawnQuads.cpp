@@ -133,7 +133,11 @@ std::vector<DrawnQuad> decode(const RecordingGeometryBuffer& buffer)
         }
         else
         {
-            quads.push_back({"text", rect, cornerColours(batch.vertices, rect)});
+            // A run's colours are its first glyph's: a batch may hold many glyphs.
+            const std::vector<CEGUI::Vertex> glyph(
+                batch.vertices.begin(),
+                batch.vertices.begin() + std::min<std::size_t>(6, batch.vertices.size()));
+            quads.push_back({"text", rect, cornerColours(glyph, bounds(glyph, false))});
             inText = true;
         }
     }
