@@ -1,18 +1,16 @@
 #include "draw/GlyphRun.h"
 
-#include <CEGUI/BasicImage.h>
-#include <CEGUI/CoordConverter.h>
+#include "draw/ImageParts.h"
+#include "draw/QuadBatch.h"
+
 #include <CEGUI/Font.h>
 #include <CEGUI/FontGlyph.h>
 #include <CEGUI/FontManager.h>
 #include <CEGUI/GeometryBuffer.h>
-#include <CEGUI/Texture.h>
-#include <CEGUI/Vertex.h>
 #include <algorithm>
 #include <array>
 #include <bitset>
 #include <unordered_map>
-#include <vector>
 
 namespace CEGUI
 {
@@ -20,13 +18,6 @@ namespace MoxieLook
 {
 namespace
 {
-// What BasicImage::render reads of itself and keeps to itself.
-struct BasicImageParts : BasicImage
-{
-    static constexpr Texture* BasicImage::*Texture_ = &BasicImageParts::d_texture;
-    static constexpr Rectf BasicImage::*Area = &BasicImageParts::d_area;
-};
-
 struct Glyph
 {
     const FontGlyph* glyph = nullptr;
@@ -89,7 +80,7 @@ private:
         if (image != entry.image)
         {
             entry.image = image;
-            entry.basic = dynamic_cast<const BasicImage*>(image);
+            entry.basic = plainBasicImage(image);
         }
         return entry;
     }
@@ -135,96 +126,6 @@ FontGlyphs& glyphsOf(const Font& font)
     return all.fonts.try_emplace(&font, font).first->second;
 }
 
-// Quads of one texture, gathered and handed over in one append. BasicImage::render's
-// arithmetic, step for step, so that every vertex comes out the same.
-class QuadBatch
-{
-public:
-    explicit QuadBatch(GeometryBuffer& buffer) : d_buffer(buffer) {}
-    ~QuadBatch() { flush(); }
-
-    void add(const Glyph& glyph, const Rectf& destArea, const Rectf* clip,
-             const ColourRect& colours)
-    {
-        if (!glyph.basic)
-        {
-            flush();
-            glyph.image->render(d_buffer, destArea, clip, colours);
-            return;
-        }
-        const BasicImage& image = *glyph.basic;
-        Rectf dest(destArea);
-        dest.offset(image.BasicImage::getRenderedOffset());
-        Rectf final(clip ? dest.getIntersection(*clip) : dest);
-        if (final.getWidth() == 0 || final.getHeight() == 0)
-            return;
-
-        Texture* texture = image.*BasicImageParts::Texture_;
-        if (texture != d_texture)
-        {
-            flush();
-            d_texture = texture;
-            d_scale = texture->getTexelScaling();
-        }
-        const Rectf& area = image.*BasicImageParts::Area;
-        const Vector2f texPerPix(area.getWidth() / dest.getWidth(),
-                                 area.getHeight() / dest.getHeight());
-        const Rectf tex((area.d_min + ((final.d_min - dest.d_min) * texPerPix)) * d_scale,
-                        (area.d_max + ((final.d_max - dest.d_max) * texPerPix)) * d_scale);
-        final.d_min.d_x = CoordConverter::alignToPixels(final.d_min.d_x);
-        final.d_min.d_y = CoordConverter::alignToPixels(final.d_min.d_y);
-        final.d_max.d_x = CoordConverter::alignToPixels(final.d_max.d_x);
-        final.d_max.d_y = CoordConverter::alignToPixels(final.d_max.d_y);
-
-        Vertex* v = grow(6);
-        put(v[0], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
-        put(v[1], final.left(), final.bottom(), tex.left(), tex.bottom(), colours.d_bottom_left);
-        put(v[2], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
-        put(v[3], final.right(), final.top(), tex.right(), tex.top(), colours.d_top_right);
-        put(v[4], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
-        put(v[5], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
-    }
-
-    void flush()
-    {
-        if (d_used == 0)
-            return;
-        d_buffer.setActiveTexture(d_texture);
-        d_buffer.appendGeometry(scratch().data(), static_cast<uint>(d_used));
-        d_used = 0;
-    }
-
-private:
-    // Vertices are built once and overwritten after: a Vertex's colour has a constructor
-    // that would otherwise run six times a glyph.
-    static std::vector<Vertex>& scratch()
-    {
-        static std::vector<Vertex> vertices(96);
-        return vertices;
-    }
-
-    Vertex* grow(std::size_t count)
-    {
-        std::vector<Vertex>& vertices = scratch();
-        if (vertices.size() < d_used + count)
-            vertices.resize(2 * (d_used + count));
-        Vertex* at = vertices.data() + d_used;
-        d_used += count;
-        return at;
-    }
-
-    static void put(Vertex& vertex, float x, float y, float u, float v, const Colour& colour)
-    {
-        vertex.position = Vector3f(x, y, 0.0f);
-        vertex.tex_coords = Vector2f(u, v);
-        vertex.colour_val = colour;
-    }
-
-    GeometryBuffer& d_buffer;
-    Texture* d_texture = nullptr;
-    Vector2f d_scale;
-    std::size_t d_used = 0;
-};
 } // namespace
 
 float drawGlyphs(GeometryBuffer& buffer, const Font& font, const String& text,
@@ -240,9 +141,17 @@ float drawGlyphs(GeometryBuffer& buffer, const Font& font, const String& text,
         const Glyph& glyph = glyphs.find(font, text[c]);
         if (!glyph.image)
             continue;
-        const Vector2f& offset = glyph.image->getRenderedOffset();
+        // FontGlyph's own sums, read without a virtual call where the image is plain.
+        const Vector2f& offset =
+            glyph.basic ? glyph.basic->*ImageParts::ScaledOffset : glyph.image->getRenderedOffset();
+        const Sizef& size =
+            glyph.basic ? glyph.basic->*ImageParts::ScaledSize : glyph.image->getRenderedSize();
         pen.d_y = baseY - (offset.d_y - offset.d_y * yScale);
-        batch.add(glyph, Rectf(pen, glyph.glyph->getSize(xScale, yScale)), clip, colours);
+        const Rectf dest(pen, Sizef(size.d_width * xScale, size.d_height * yScale));
+        if (glyph.basic)
+            batch.add(*glyph.basic, dest, clip, colours);
+        else
+            batch.add(*glyph.image, dest, clip, colours);
         pen.d_x += glyph.glyph->getAdvance(xScale);
         if (text[c] == ' ')
             pen.d_x += spaceExtra;

@@ -1,6 +1,7 @@
 #include "draw/NinePieceFrame.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 #include <algorithm>
@@ -60,11 +61,12 @@ void NinePieceFrame::draw(GeometryBuffer& buffer, const Vector2f& position, cons
     dest[Right] = Rectf(x + w - pieceWidth(Right), y + trH, x + w, y + h - brH);
     dest[Bottom] = Rectf(x + blW, y + h - pieceHeight(Bottom), x + w - brW, y + h);
 
+    QuadBatch batch(buffer);
     for (int piece = 0; piece < PieceCount; ++piece)
-        drawPiece(buffer, static_cast<Piece>(piece), dest[piece], position, clip);
+        drawPiece(batch, static_cast<Piece>(piece), dest[piece], position, clip);
 }
 
-void NinePieceFrame::drawPiece(GeometryBuffer& buffer, Piece piece, const Rectf& dest,
+void NinePieceFrame::drawPiece(QuadBatch& batch, Piece piece, const Rectf& dest,
                                const Vector2f& origin, const Rectf* clip) const
 {
     const Image* image = d_images[piece];
@@ -73,7 +75,7 @@ void NinePieceFrame::drawPiece(GeometryBuffer& buffer, Piece piece, const Rectf&
 
     if (d_colours.isMonochromatic() || d_size.d_width <= 0.0f || d_size.d_height <= 0.0f)
     {
-        image->render(buffer, dest, clip, d_colours);
+        batch.add(*image, dest, clip, d_colours);
         return;
     }
 
@@ -81,10 +83,10 @@ void NinePieceFrame::drawPiece(GeometryBuffer& buffer, Piece piece, const Rectf&
     const float right = (dest.right() - origin.d_x) / d_size.d_width;
     const float top = (dest.top() - origin.d_y) / d_size.d_height;
     const float bottom = (dest.bottom() - origin.d_y) / d_size.d_height;
-    image->render(
-        buffer, dest, clip,
-        d_colours.getSubRectangle(std::clamp(left, 0.0f, 1.0f), std::clamp(right, 0.0f, 1.0f),
-                                  std::clamp(top, 0.0f, 1.0f), std::clamp(bottom, 0.0f, 1.0f)));
+    batch.add(*image, dest, clip,
+              d_colours.getSubRectangle(std::clamp(left, 0.0f, 1.0f), std::clamp(right, 0.0f, 1.0f),
+                                        std::clamp(top, 0.0f, 1.0f),
+                                        std::clamp(bottom, 0.0f, 1.0f)));
 }
 
 void sizeFrames(std::initializer_list<NinePieceFrame*> frames, const Sizef& size)

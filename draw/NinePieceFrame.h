@@ -14,6 +14,8 @@ class Image;
 
 namespace MoxieLook
 {
+class QuadBatch;
+
 class NinePieceFrame
 {
 public:
@@ -55,7 +57,7 @@ public:
     void draw(GeometryBuffer& buffer, const Vector2f& position, const Rectf* clip) const;
 
 private:
-    void drawPiece(GeometryBuffer& buffer, Piece piece, const Rectf& dest, const Vector2f& origin,
+    void drawPiece(QuadBatch& batch, Piece piece, const Rectf& dest, const Vector2f& origin,
                    const Rectf* clip) const;
 
     std::array<const Image*, PieceCount> d_images{};

@@ -2,6 +2,7 @@
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
 #include "draw/NinePieceFrame.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
@@ -9,6 +10,7 @@
 #include <CEGUI/CentredRenderedString.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/FontManager.h>
+#include <CEGUI/ImageManager.h>
 #include <CEGUI/LeftAlignedRenderedString.h>
 #include <CEGUI/RightAlignedRenderedString.h>
 #include <CEGUI/Window.h>
@@ -247,4 +249,34 @@ TEST(TextDrawing, OneLineLabelsDrawAsCeguisFormattersDo)
                                            nameOf(vert).c_str());
                 }
     }
+}
+
+TEST(QuadBatch, DrawsWhatCeguisImagesDrawInTheOrderGiven)
+{
+    const ColourRect gradient(Colour(0xFF102030), Colour(0x80405060), Colour(0xFF708090),
+                              Colour(0x40A0B0C0));
+    const Rectf cutting(13.5f, 9.0f, 40.25f, 17.0f), away(500, 500, 600, 600);
+    const Rectf places[] = {Rectf(10.3f, 7.6f, 30.8f, 19.1f), Rectf(0, 0, 64, 3),
+                            Rectf(12, 8, 12, 20)};
+    RecordingGeometryBuffer cegui, ours;
+    {
+        QuadBatch batch(ours);
+        auto images = ImageManager::getSingleton().getIterator();
+        for (int drawn = 0; !images.isAtEnd() && drawn < 40; ++images, ++drawn)
+        {
+            const Image& image = *images.getCurrentValue().first;
+            for (const Rectf& dest : places)
+                for (const Rectf* clip : {static_cast<const Rectf*>(nullptr), &cutting, &away})
+                {
+                    image.render(cegui, dest, clip, gradient);
+                    batch.add(image, dest, clip, gradient);
+                }
+            // A batch opened inside another sends the outer one's quads first.
+            QuadBatch inner(ours);
+            image.render(cegui, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
+            inner.add(image, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
+        }
+    }
+    EXPECT_GT(verticesOf(cegui).size(), 6u * 40);
+    expectSameVertices(cegui, ours, "images");
 }

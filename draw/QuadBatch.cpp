@@ -1,0 +1,127 @@
+#include "draw/QuadBatch.h"
+
+#include "draw/ImageParts.h"
+
+#include <CEGUI/CoordConverter.h>
+#include <CEGUI/GeometryBuffer.h>
+#include <CEGUI/Texture.h>
+#include <CEGUI/Vertex.h>
+#include <typeinfo>
+#include <vector>
+
+namespace CEGUI
+{
+namespace MoxieLook
+{
+namespace
+{
+// Vertices are built once and overwritten after: a Vertex's colour has a constructor
+// that would otherwise run six times a quad.
+struct SharedVertices
+{
+    std::vector<Vertex> vertices = std::vector<Vertex>(96);
+    std::size_t used = 0;
+    QuadBatch* open = nullptr;
+};
+
+SharedVertices& shared()
+{
+    static SharedVertices all;
+    return all;
+}
+
+Vertex* grow(std::size_t count)
+{
+    SharedVertices& all = shared();
+    if (all.vertices.size() < all.used + count)
+        all.vertices.resize(2 * (all.used + count));
+    Vertex* at = all.vertices.data() + all.used;
+    all.used += count;
+    return at;
+}
+
+void put(Vertex& vertex, float x, float y, float u, float v, const Colour& colour)
+{
+    vertex.position = Vector3f(x, y, 0.0f);
+    vertex.tex_coords = Vector2f(u, v);
+    vertex.colour_val = colour;
+}
+} // namespace
+
+const BasicImage* plainBasicImage(const Image* image)
+{
+    return image && typeid(*image) == typeid(BasicImage) ? static_cast<const BasicImage*>(image)
+                                                         : nullptr;
+}
+
+QuadBatch::QuadBatch(GeometryBuffer& buffer) : d_buffer(buffer), d_outer(shared().open)
+{
+    if (d_outer)
+        d_outer->flush();
+    d_from = shared().used;
+    shared().open = this;
+}
+
+QuadBatch::~QuadBatch()
+{
+    flush();
+    shared().open = d_outer;
+}
+
+void QuadBatch::add(const Image& image, const Rectf& dest, const Rectf* clip,
+                    const ColourRect& colours)
+{
+    if (const BasicImage* basic = plainBasicImage(&image))
+        return add(*basic, dest, clip, colours);
+    flush();
+    image.render(d_buffer, dest, clip, colours);
+}
+
+void QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf* clip,
+                    const ColourRect& colours)
+{
+    // BasicImage::render, step for step, so that every vertex comes out the same.
+    Rectf dest(destArea);
+    dest.offset(image.*ImageParts::ScaledOffset);
+    Rectf final(clip ? dest.getIntersection(*clip) : dest);
+    if (final.getWidth() == 0 || final.getHeight() == 0)
+        return;
+
+    Texture* texture = image.*ImageParts::TextureOf;
+    if (texture != d_texture)
+    {
+        flush();
+        d_texture = texture;
+        d_scale = texture->getTexelScaling();
+    }
+    const Rectf& area = image.*ImageParts::Area;
+    const Vector2f texPerPix(area.getWidth() / dest.getWidth(),
+                             area.getHeight() / dest.getHeight());
+    const Rectf tex((area.d_min + ((final.d_min - dest.d_min) * texPerPix)) * d_scale,
+                    (area.d_max + ((final.d_max - dest.d_max) * texPerPix)) * d_scale);
+    final.d_min.d_x = CoordConverter::alignToPixels(final.d_min.d_x);
+    final.d_min.d_y = CoordConverter::alignToPixels(final.d_min.d_y);
+    final.d_max.d_x = CoordConverter::alignToPixels(final.d_max.d_x);
+    final.d_max.d_y = CoordConverter::alignToPixels(final.d_max.d_y);
+
+    Vertex* v = grow(6);
+    put(v[0], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
+    put(v[1], final.left(), final.bottom(), tex.left(), tex.bottom(), colours.d_bottom_left);
+    put(v[2], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
+    put(v[3], final.right(), final.top(), tex.right(), tex.top(), colours.d_top_right);
+    put(v[4], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
+    put(v[5], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
+}
+
+void QuadBatch::flush()
+{
+    SharedVertices& all = shared();
+    if (all.used == d_from)
+        return;
+    d_buffer.setActiveTexture(d_texture);
+    d_buffer.appendGeometry(all.vertices.data() + d_from, static_cast<uint>(all.used - d_from));
+    all.used = d_from;
+}
+
+} // namespace MoxieLook
+} // namespace CEGUI
