@@ -1,6 +1,7 @@
 #include "draw/FormattedImage.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 #include <algorithm>
@@ -82,8 +83,8 @@ void FormattedImage::draw(GeometryBuffer& buffer, const Vector2f& position, cons
         {
             const Vector2f at(position.d_x + horz.start + static_cast<float>(column) * horz.extent,
                               position.d_y + vert.start + static_cast<float>(row) * vert.extent);
-            d_image->render(buffer, Rectf(at, Sizef(horz.extent, vert.extent)),
-                            tiled ? &bounds : clip, d_colours);
+            drawImage(buffer, *d_image, Rectf(at, Sizef(horz.extent, vert.extent)),
+                      tiled ? &bounds : clip, d_colours);
         }
 }
 

@@ -1,6 +1,7 @@
 #include "draw/FramedFill.h"
 
 #include "draw/NinePieceFrame.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 
@@ -12,7 +13,7 @@ void drawFramedFill(GeometryBuffer& buffer, const Rectf& area, const Image& fill
                     const ColourRect& fillColours, const NinePieceFrame& frame,
                     const EdgeInsets& insets)
 {
-    fill.render(buffer, insets.inside(area), nullptr, fillColours);
+    drawImage(buffer, fill, insets.inside(area), nullptr, fillColours);
     frame.draw(buffer, area.d_min, nullptr);
 }
 

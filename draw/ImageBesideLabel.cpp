@@ -1,6 +1,7 @@
 #include "draw/ImageBesideLabel.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Font.h>
@@ -41,9 +42,9 @@ void drawImageBesideLabel(const Window& window, GeometryBuffer& buffer, const Im
         window.getPixelSize(),
         Sizef(own.d_width * imageScale.d_width, own.d_height * imageScale.d_height),
         font ? font->getLineSpacing() : 0.0f, padding);
-    image.render(buffer, at.image, nullptr, imageColours);
+    drawImage(buffer, image, at.image, nullptr, imageColours);
     if (overlay)
-        overlay->render(buffer, at.image, nullptr, imageColours);
+        drawImage(buffer, *overlay, at.image, nullptr, imageColours);
     if (font)
         drawText(window, buffer, window.getRenderedString(), at.label, HorzTextFormat::Left,
                  VertTextFormat::Top, textColours, nullptr);

@@ -123,5 +123,11 @@ void QuadBatch::flush()
     all.used = d_from;
 }
 
+void drawImage(GeometryBuffer& buffer, const Image& image, const Rectf& dest, const Rectf* clip,
+               const ColourRect& colours)
+{
+    QuadBatch(buffer).add(image, dest, clip, colours);
+}
+
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -45,5 +45,9 @@ private:
     std::size_t d_from; //!< where this batch's quads start in the shared vertices
 };
 
+//! One image as image.render(buffer, dest, clip, colours) draws it, for less.
+void drawImage(GeometryBuffer& buffer, const Image& image, const Rectf& dest, const Rectf* clip,
+               const ColourRect& colours);
+
 } // namespace MoxieLook
 } // namespace CEGUI

@@ -12,6 +12,7 @@
 #include <CEGUI/Window.h>
 #include <cmath>
 #include <memory>
+#include <typeinfo>
 #include <vector>
 
 namespace CEGUI
@@ -122,7 +123,10 @@ bool measureOneLine(const Window& window, const RenderedString& text,
     line = Sizef(0.0f, 0.0f);
     for (const RenderedStringComponent* component : text.*RenderedStringParts::Components)
     {
-        const auto* piece = dynamic_cast<const RenderedStringTextComponent*>(component);
+        // Exactly CEGUI's text piece: a kind of its own may draw itself otherwise.
+        const auto* piece = typeid(*component) == typeid(RenderedStringTextComponent)
+                                ? static_cast<const RenderedStringTextComponent*>(component)
+                                : nullptr;
         if (!piece || piece->getVerticalFormatting() > VF_STRETCHED ||
             (piece->*TextPieceParts::SelectionImage && piece->*TextPieceParts::SelectionLength))
             return false;

@@ -1,6 +1,7 @@
 #include "draw/ThreePieceBar.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 #include <algorithm>
@@ -42,14 +43,14 @@ void tile(GeometryBuffer& buffer, const Image& image, const Rectf& area, const R
     // covers what can be seen without gaps.
     const float far = std::max(std::fabs(cut.left()), std::fabs(cut.right()));
     if (std::nextafter(far, INFINITY) - far > width / 8)
-        return image.render(buffer, cut, &cut, colours);
+        return drawImage(buffer, image, cut, &cut, colours);
     const double origin = area.left();
     const double first = std::floor((cut.left() - origin) / width);
     const double end = std::ceil((cut.right() - origin) / width);
     for (double i = std::max(0.0, first); i < end; ++i)
     {
         const float x = static_cast<float>(origin + i * width);
-        image.render(buffer, Rectf(x, area.top(), x + width, area.bottom()), &cut, colours);
+        drawImage(buffer, image, Rectf(x, area.top(), x + width, area.bottom()), &cut, colours);
     }
 }
 } // namespace
@@ -70,20 +71,20 @@ void ThreePieceBar::draw(GeometryBuffer& buffer, const Rectf& area, const Colour
     }
     const float top = area.top(), bottom = area.bottom();
     if (left && leftWidth > 0)
-        left->render(buffer, Rectf(area.left(), top, area.left() + leftWidth, bottom), clip,
-                     colours);
+        drawImage(buffer, *left, Rectf(area.left(), top, area.left() + leftWidth, bottom), clip,
+                  colours);
     const Rectf middleArea(area.left() + leftWidth, top, area.right() - rightWidth, bottom);
     if (middle && middleArea.getWidth() > 0)
     {
         if (!tileMiddle || widthOf(middle) <= 0)
-            middle->render(buffer, middleArea, clip, colours);
+            drawImage(buffer, *middle, middleArea, clip, colours);
         else
             tile(buffer, *middle, middleArea, clip ? middleArea.getIntersection(*clip) : middleArea,
                  colours);
     }
     if (right && rightWidth > 0)
-        right->render(buffer, Rectf(area.right() - rightWidth, top, area.right(), bottom), clip,
-                      colours);
+        drawImage(buffer, *right, Rectf(area.right() - rightWidth, top, area.right(), bottom), clip,
+                  colours);
 }
 
 } // namespace MoxieLook

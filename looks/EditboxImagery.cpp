@@ -1,6 +1,7 @@
 #include "looks/EditboxImagery.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 #include <CEGUI/Window.h>
@@ -51,15 +52,14 @@ Rectf EditboxImagery::drawBox(const Window& window, GeometryBuffer& buffer, bool
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), window.getEffectiveAlpha());
     const Rectf inner = d_frame.innerRect(area);
     if (disabled)
-        d_disabledFill->render(buffer, inner, nullptr, white);
+        drawImage(buffer, *d_disabledFill, inner, nullptr, white);
     else if (readOnly)
-        d_readOnlyFill->render(
-            buffer, inner, nullptr,
-            colours.readOnlyBackground
-                ? faded(ColourRect(*colours.readOnlyBackground), window.getEffectiveAlpha())
-                : white);
+        drawImage(buffer, *d_readOnlyFill, inner, nullptr,
+                  colours.readOnlyBackground
+                      ? faded(ColourRect(*colours.readOnlyBackground), window.getEffectiveAlpha())
+                      : white);
     else
-        d_fill->render(buffer, inner, nullptr, white);
+        drawImage(buffer, *d_fill, inner, nullptr, white);
     NinePieceFrame& frame = focused && !disabled ? d_focusFrame : d_frame;
     frame.setSize(area.getSize());
     frame.setColours(white);

@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 
 #include <CEGUI/CoordConverter.h>
@@ -13,6 +14,8 @@
 #include <CEGUI/widgets/Scrollbar.h>
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
+#include <typeinfo>
 
 namespace CEGUI
 {
@@ -87,10 +90,23 @@ Rectf ListDrawing::renderArea(const Listbox& list) const
     return area;
 }
 
+namespace
+{
+// The common case by its exact type, which is quicker to ask than dynamic_cast; a host's
+// own item kinds are asked the long way.
+template <typename Item>
+auto* asTextItem(Item& item)
+{
+    using Text = std::conditional_t<std::is_const_v<Item>, const ListboxTextItem, ListboxTextItem>;
+    return typeid(item) == typeid(ListboxTextItem) ? static_cast<Text*>(&item)
+                                                   : dynamic_cast<Text*>(&item);
+}
+} // namespace
+
 void ListDrawing::drawItem(const ListboxItem& item, GeometryBuffer& buffer, const Rectf& rect,
                            float alpha, const Rectf* clip)
 {
-    const auto* text = dynamic_cast<const ListboxTextItem*>(&item);
+    const auto* text = asTextItem(item);
     const Font* font = text ? text->getFont() : nullptr;
     const String& words = item.getText();
     if (!font || words.find_first_of("[\n") != String::npos)
@@ -102,7 +118,7 @@ void ListDrawing::drawItem(const ListboxItem& item, GeometryBuffer& buffer, cons
     {
         ColourRect brush = item.getSelectionColours();
         brush.modulateAlpha(alpha);
-        item.getSelectionBrushImage()->render(buffer, rect, clip, brush);
+        drawImage(buffer, *item.getSelectionBrushImage(), rect, clip, brush);
     }
     // Where CEGUI's text item puts its line: the font's leading split above and below.
     const float lead = std::round((font->getLineSpacing() - font->getFontHeight()) / 2);
@@ -120,7 +136,7 @@ void ListDrawing::styleItem(ListboxItem& item, const Image* brush)
         item.setSelectionColours(Colour(0xFFFFFFFF));
     // CEGUI's default text colour is white, for dark skins; on this light list a host's
     // own choice is kept, the default becomes ink.
-    if (auto* text = dynamic_cast<ListboxTextItem*>(&item))
+    if (auto* text = asTextItem(item))
     {
         if (sameColour(text->getTextColours(), ListboxTextItem::DefaultTextColour))
             text->setTextColours(ItemTextColour);
@@ -182,7 +198,7 @@ void ListDrawing::draw(Listbox& list)
     const float alpha = list.getEffectiveAlpha();
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
     const Rectf outer(Vector2f(0, 0), list.getPixelSize());
-    d_fill->render(buffer, d_frame.innerRect(outer), nullptr, white);
+    drawImage(buffer, *d_fill, d_frame.innerRect(outer), nullptr, white);
     d_frame.setSize(outer.getSize());
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
@@ -208,7 +224,7 @@ void ListDrawing::draw(Listbox& list)
         if (clip.getWidth() <= 0 || clip.getHeight() <= 0)
             continue;
         if (item == d_hovered && !item->isSelected())
-            d_hoverBrush->render(buffer, rect, &clip, white);
+            drawImage(buffer, *d_hoverBrush, rect, &clip, white);
         drawItem(*item, buffer, rect, itemAlpha, &clip);
     }
 }

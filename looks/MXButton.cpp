@@ -1,6 +1,7 @@
 #include "looks/MXButton.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Font.h>
@@ -366,8 +367,8 @@ void MXIconButton::drawIcon(float alpha)
     const Sizef size = d_icon->getRenderedSize();
     const Vector2f at(std::trunc((area.d_width - size.d_width) * 0.5f + 0.5f),
                       std::trunc((area.d_height - size.d_height) * 0.5f + 0.5f));
-    d_icon->render(getGeometryBuffer(), Rectf(at, size), nullptr,
-                   faded(d_iconColours, getEffectiveAlpha() * alpha));
+    drawImage(getGeometryBuffer(), *d_icon, Rectf(at, size), nullptr,
+              faded(d_iconColours, getEffectiveAlpha() * alpha));
 }
 
 } // namespace MoxieLook

@@ -1,6 +1,7 @@
 #include "looks/MXCloseButton.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <cmath>
 
@@ -76,8 +77,8 @@ void MXCloseButton::drawCentred(const Image* image, float alpha)
     const Sizef size = image->getRenderedSize();
     const Vector2f at(std::trunc((area.d_width - size.d_width) * 0.5f + 0.5f),
                       std::trunc((area.d_height - size.d_height) * 0.5f + 0.5f));
-    image->render(getGeometryBuffer(), Rectf(at, size), nullptr,
-                  withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha() * alpha));
+    drawImage(getGeometryBuffer(), *image, Rectf(at, size), nullptr,
+              withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha() * alpha));
 }
 
 } // namespace MoxieLook

@@ -2,6 +2,7 @@
 
 #include "draw/Imagery.h"
 #include "draw/MirroredImage.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "widgets/StaticImage.h"
 #include "widgets/StaticLayout.h"
@@ -161,9 +162,8 @@ void MXDiagram::UpdateLegendLayout()
 
 void MXDiagram::drawMark(const Rectf& area)
 {
-    lookImage(MarkImageName)
-        .render(getGeometryBuffer(), area, nullptr,
-                ColourRect(withAlpha(Colour(0x00FF0000), getEffectiveAlpha())));
+    drawImage(getGeometryBuffer(), lookImage(MarkImageName), area, nullptr,
+              ColourRect(withAlpha(Colour(0x00FF0000), getEffectiveAlpha())));
 }
 
 void MXDiagram::drawBackground()
@@ -174,9 +174,8 @@ void MXDiagram::drawBackground()
                       d_frame.pieceHeight(NinePieceFrame::Top),
                       own.d_width - d_frame.pieceWidth(NinePieceFrame::Top),
                       own.d_height - d_frame.pieceHeight(NinePieceFrame::Bottom));
-    lookImage(BackgroundImageName)
-        .render(getGeometryBuffer(), field, nullptr,
-                withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+    drawImage(getGeometryBuffer(), lookImage(BackgroundImageName), field, nullptr,
+              withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
 }
 
 } // namespace MoxieLook

@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Exceptions.h>
@@ -114,9 +115,9 @@ void MXEditbox::populateGeometryBuffer()
     {
         const float from = left + font->getTextAdvance(text.substr(0, selStart));
         const float to = left + font->getTextAdvance(text.substr(0, selEnd));
-        d_imagery.selection(focused).render(buffer,
-                                            Rectf(from, top, to, top + font->getLineSpacing()),
-                                            &area, d_imagery.selectionTint(focused, alpha));
+        drawImage(buffer, d_imagery.selection(focused),
+                  Rectf(from, top, to, top + font->getLineSpacing()), &area,
+                  d_imagery.selectionTint(focused, alpha));
     }
     // Before, inside and after the selection, each in its colour.
     const ColourRect normal = d_imagery.textColour(isReadOnly(), disabled, alpha);
@@ -130,9 +131,9 @@ void MXEditbox::populateGeometryBuffer()
     if (focused && !isReadOnly() && !disabled && d_blink.shown)
     {
         const float caretX = std::floor(left + toCaret);
-        d_imagery.caret().render(
-            buffer, Rectf(caretX, top, caretX + caretWidth, top + font->getLineSpacing()), &area,
-            withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+        drawImage(buffer, d_imagery.caret(),
+                  Rectf(caretX, top, caretX + caretWidth, top + font->getLineSpacing()), &area,
+                  withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "looks/MXFrameWindow.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/MXCloseButton.h"
 #include "looks/MXTitlebar.h"
@@ -280,12 +281,12 @@ void MXFrameWindow::populateGeometryBuffer()
     const Rectf outer = getUnclippedOuterRect().get();
     Rectf inner = getUnclippedInnerRect().get();
     inner.offset(Vector2f(-outer.left(), -outer.top()));
-    d_clientBrush->render(
-        getGeometryBuffer(), inner, nullptr,
-        d_clientAreaColour ? faded(ColourRect(*d_clientAreaColour), getEffectiveAlpha())
-                           : withAlpha(ColourRect(ClientTopLeftColour, ClientTopRightColour,
-                                                  ClientBottomLeftColour, ClientBottomRightColour),
-                                       getEffectiveAlpha()));
+    drawImage(getGeometryBuffer(), *d_clientBrush, inner, nullptr,
+              d_clientAreaColour
+                  ? faded(ColourRect(*d_clientAreaColour), getEffectiveAlpha())
+                  : withAlpha(ColourRect(ClientTopLeftColour, ClientTopRightColour,
+                                         ClientBottomLeftColour, ClientBottomRightColour),
+                              getEffectiveAlpha()));
     if (isFrameEnabled())
         drawFrameAt(outer);
 }

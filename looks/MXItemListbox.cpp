@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
 #include "looks/ListDrawing.h"
@@ -104,7 +105,7 @@ void MXItemListbox::drawList()
     GeometryBuffer& buffer = getGeometryBuffer();
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
-    d_fill->render(buffer, d_frame.innerRect(area), nullptr, white);
+    drawImage(buffer, *d_fill, d_frame.innerRect(area), nullptr, white);
     d_frame.setSize(area.getSize());
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
@@ -212,10 +213,10 @@ void MXListboxItem::drawItem()
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const bool selected = isSelectable() && isSelected();
     if (selected)
-        getSelectionBrush()->render(buffer, area, nullptr, faded(getSelectionColour(), alpha));
+        drawImage(buffer, *getSelectionBrush(), area, nullptr, faded(getSelectionColour(), alpha));
     else if (d_hovered)
-        d_hoverBrush->render(buffer, area, nullptr,
-                             withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+        drawImage(buffer, *d_hoverBrush, area, nullptr,
+                  withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     const Font* font = getFont();
     if (!font)
         return;

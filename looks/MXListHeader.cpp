@@ -1,6 +1,7 @@
 #include "looks/MXListHeader.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 #include "looks/AutoParts.h"
 
@@ -78,14 +79,14 @@ void MXListHeaderSegment::drawAt(const Vector2f& origin, float fade)
     const bool lit = isSegmentHovering() || isSegmentPushed();
     const ColourRect backdrop =
         isSegmentPushed() ? withAlpha(ColourRect(PushedTint), alpha) : white;
-    (lit ? d_hover : d_normal)->render(buffer, area, nullptr, backdrop);
+    drawImage(buffer, *(lit ? d_hover : d_normal), area, nullptr, backdrop);
 
     const Image* splitter =
         isSplitterHovering() || isBeingDragSized() ? d_splitterHover : d_splitterNormal;
     const float splitterWidth = splitter->getRenderedSize().d_width;
-    splitter->render(buffer,
-                     Rectf(area.right() - splitterWidth, area.top(), area.right(), area.bottom()),
-                     nullptr, white);
+    drawImage(buffer, *splitter,
+              Rectf(area.right() - splitterWidth, area.top(), area.right(), area.bottom()), nullptr,
+              white);
 
     float textRight = area.right() - splitterWidth - TextPadding;
     if (getSortDirection() != None)
@@ -94,7 +95,7 @@ void MXListHeaderSegment::drawAt(const Vector2f& origin, float fade)
         const Sizef arrowSize = arrow->getRenderedSize();
         const Vector2f at(textRight - arrowSize.d_width,
                           area.top() + std::floor((size.d_height - arrowSize.d_height) * 0.5f));
-        arrow->render(buffer, Rectf(at, arrowSize), nullptr, white);
+        drawImage(buffer, *arrow, Rectf(at, arrowSize), nullptr, white);
         textRight = at.d_x - TextPadding;
     }
     if (getFont() && !getText().empty())
@@ -128,8 +129,8 @@ void MXListHeader::populateGeometryBuffer()
 {
     if (!hasVisibleArea(*this))
         return;
-    d_backdrop->render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
-                       withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+    drawImage(getGeometryBuffer(), *d_backdrop, Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
+              withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
 }
 
 ListHeaderSegment* MXListHeaderRenderer::createNewSegment(const String& name) const

@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Font.h>
 #include <CEGUI/GlobalEventSet.h>
@@ -233,9 +234,8 @@ void MXMenubar::drawList()
 {
     if (!hasVisibleArea(*this))
         return;
-    lookImage(BarImageName)
-        .render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
-                faded(getBackgroundColours(), getEffectiveAlpha()));
+    drawImage(getGeometryBuffer(), lookImage(BarImageName), Rectf(Vector2f(0, 0), getPixelSize()),
+              nullptr, faded(getBackgroundColours(), getEffectiveAlpha()));
 }
 
 void MXMenubar::destroy()
@@ -295,11 +295,11 @@ void MXPopupMenu::drawList()
     const Sizef own = getPixelSize();
     const Sizef box(std::max(0.0f, own.d_width - ShadowOffset),
                     std::max(0.0f, own.d_height - ShadowOffset));
-    lookImage(ShadowImageName)
-        .render(buffer, Rectf(Vector2f(ShadowOffset, ShadowOffset), box), nullptr, white(*this));
+    drawImage(buffer, lookImage(ShadowImageName), Rectf(Vector2f(ShadowOffset, ShadowOffset), box),
+              nullptr, white(*this));
     const Rectf boxRect(Vector2f(0, 0), box);
     const ColourRect colours = faded(getBackgroundColours(), getEffectiveAlpha());
-    lookImage(PopupFillImageName).render(buffer, d_frame.innerRect(boxRect), nullptr, colours);
+    drawImage(buffer, lookImage(PopupFillImageName), d_frame.innerRect(boxRect), nullptr, colours);
     d_frame.setSize(box);
     d_frame.setColours(colours);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
@@ -404,8 +404,8 @@ void MXPopupMenuItem::drawItem()
         const Image& line = lookImage(SeparatorImageName);
         const float h = line.getRenderedSize().d_height;
         const float top = std::floor((area.getHeight() - h) * 0.5f);
-        line.render(buffer, Rectf(area.left() + 2, top, area.right() - 2, top + h), nullptr,
-                    white(*this));
+        drawImage(buffer, line, Rectf(area.left() + 2, top, area.right() - 2, top + h), nullptr,
+                  white(*this));
         return;
     }
     const MenuItemState state = menuItemStateOf(*this);
@@ -421,13 +421,13 @@ void MXPopupMenuItem::drawItem()
     if (isSelectable() && isSelected())
     {
         const Image& mark = lookImage(CheckMarkImageName);
-        mark.render(buffer, centred(mark, 0, CheckColumn), nullptr, faded(white(*this), alpha));
+        drawImage(buffer, mark, centred(mark, 0, CheckColumn), nullptr, faded(white(*this), alpha));
     }
     if (getPopupMenu())
     {
         const Image& arrow = lookImage(SubMenuArrowImageName);
-        arrow.render(buffer, centred(arrow, area.right() - ArrowColumn, ArrowColumn), nullptr,
-                     faded(white(*this), alpha));
+        drawImage(buffer, arrow, centred(arrow, area.right() - ArrowColumn, ArrowColumn), nullptr,
+                  faded(white(*this), alpha));
     }
     if (const Font* font = getFont())
     {

@@ -1,6 +1,7 @@
 #include "looks/MXMultiColumnList.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/ListDrawing.h"
 #include "looks/MXListHeader.h"
@@ -173,7 +174,7 @@ void MultiColumnListLookOf<Base>::drawList()
     GeometryBuffer& buffer = this->getGeometryBuffer();
     const float alpha = this->getEffectiveAlpha();
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
-    d_background->render(buffer, frameInner(), nullptr, white);
+    drawImage(buffer, *d_background, frameInner(), nullptr, white);
     d_frame.setSize(this->getPixelSize());
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);

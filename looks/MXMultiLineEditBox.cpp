@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
 
@@ -112,9 +113,9 @@ void MXMultiLineEditBox::populateGeometryBuffer()
     const float y = area.top() - getVertScrollbar()->getScrollPosition() +
                     static_cast<float>(line) * font->getLineSpacing();
     const float width = d_imagery.caret().getRenderedSize().d_width;
-    d_imagery.caret().render(
-        buffer, Rectf(std::floor(x), y, std::floor(x) + width, y + font->getLineSpacing()), &area,
-        withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+    drawImage(buffer, d_imagery.caret(),
+              Rectf(std::floor(x), y, std::floor(x) + width, y + font->getLineSpacing()), &area,
+              withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
 }
 
 void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
@@ -157,7 +158,7 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
         const std::size_t to = std::min(selEnd, lineEnd) - line.d_startIdx;
         const float fromX = left + font->getTextAdvance(lineText.substr(0, from));
         const float toX = left + font->getTextAdvance(lineText.substr(0, to));
-        selection.render(buffer, Rectf(fromX, top, toX, top + spacing), &area, brush);
+        drawImage(buffer, selection, Rectf(fromX, top, toX, top + spacing), &area, brush);
         float x =
             drawGlyphs(buffer, *font, lineText.substr(0, from), Vector2f(left, top), &area, normal);
         x = drawGlyphs(buffer, *font, lineText.substr(from, to - from), Vector2f(x, top), &area,

@@ -2,6 +2,7 @@
 
 #include "draw/FramedFill.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/MXStatics.h"
 #include "looks/MXTabPane.h"
 
@@ -194,8 +195,8 @@ void MXFramedWindow::populateGeometryBuffer()
     const float alpha = getEffectiveAlpha();
     const Rectf area = frameArea();
     if (d_backgroundEnabled)
-        d_background->render(buffer, d_frameEnabled ? d_frame.innerRect(area) : area, nullptr,
-                             faded(d_backgroundColours, alpha));
+        drawImage(buffer, *d_background, d_frameEnabled ? d_frame.innerRect(area) : area, nullptr,
+                  faded(d_backgroundColours, alpha));
     if (d_frameEnabled)
     {
         d_frame.setSize(area.getSize());
@@ -349,7 +350,7 @@ void MXGroupBox::populateGeometryBuffer()
     auto backdrop = [&]
     {
         if (d_captionBackdrop)
-            d_background->render(buffer, caption, nullptr, faded(*d_captionBackdrop, alpha));
+            drawImage(buffer, *d_background, caption, nullptr, faded(*d_captionBackdrop, alpha));
     };
     if (!isFrameEnabled())
     {
@@ -360,8 +361,8 @@ void MXGroupBox::populateGeometryBuffer()
     // The frame's top edge breaks where the caption stands, whatever lies behind the box.
     const Rectf area = frameArea();
     if (isBackgroundEnabled())
-        d_background->render(buffer, d_frame.innerRect(area), nullptr,
-                             faded(getBackgroundColours(), alpha));
+        drawImage(buffer, *d_background, d_frame.innerRect(area), nullptr,
+                  faded(getBackgroundColours(), alpha));
     d_frame.setSize(area.getSize());
     d_frame.setColours(faded(getFrameColours(), alpha));
     const float edgeBottom = area.top() + d_frame.pieceHeight(NinePieceFrame::Top);
@@ -471,11 +472,10 @@ void MXTabButtonPane::populateGeometryBuffer()
     const float height = std::min(BaseLineHeight, size.d_height);
     const ColourRect tint = withAlpha(ColourRect(MXTabPane::MiddleColour), getEffectiveAlpha());
     if (d_top)
-        d_line->render(getGeometryBuffer(), Rectf(0, 0, size.d_width, height), nullptr, tint);
+        drawImage(getGeometryBuffer(), *d_line, Rectf(0, 0, size.d_width, height), nullptr, tint);
     if (d_bottom)
-        d_line->render(getGeometryBuffer(),
-                       Rectf(0, size.d_height - height, size.d_width, size.d_height), nullptr,
-                       tint);
+        drawImage(getGeometryBuffer(), *d_line,
+                  Rectf(0, size.d_height - height, size.d_width, size.d_height), nullptr, tint);
 }
 
 } // namespace MoxieLook

@@ -1,6 +1,7 @@
 #include "looks/MXProgressBar.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Image.h>
@@ -224,17 +225,15 @@ void MXSegmentedProgressBar::populateGeometryBuffer()
     GeometryBuffer& buffer = getGeometryBuffer();
     const float alpha = getEffectiveAlpha();
     const Rectf area(Vector2f(0, 0), getPixelSize());
-    lookImage("StaticFrameFill")
-        .render(buffer, d_frame.innerRect(area), nullptr,
-                withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
+    drawImage(buffer, lookImage("StaticFrameFill"), d_frame.innerRect(area), nullptr,
+              withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     d_frame.setSize(area.getSize());
     d_frame.setColours(withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
     const Image& block = lookImage(SegmentImageName);
     for (const MeterSegment& segment : segmentsInView())
-        block.render(
-            buffer, segment.rect, nullptr,
-            ColourRect(withAlpha(segment.lit ? litColour(segment.end) : UnlitColour, alpha)));
+        drawImage(buffer, block, segment.rect, nullptr,
+                  ColourRect(withAlpha(segment.lit ? litColour(segment.end) : UnlitColour, alpha)));
     if (getFont() && !getText().empty())
         drawText(*this, buffer, getRenderedString(), area, HorzTextFormat::Centred,
                  VertTextFormat::Centred, ColourRect(withAlpha(MXProgressBar::TextColour, alpha)),

@@ -1,6 +1,7 @@
 #include "looks/MXScrollablePane.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 
 #include <CEGUI/widgets/Scrollbar.h>
@@ -124,7 +125,7 @@ void MXScrollablePane::populateGeometryBuffer()
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha());
     if (d_backgroundEnabled)
-        d_background->render(buffer, frameInsets().inside(area), nullptr, white);
+        drawImage(buffer, *d_background, frameInsets().inside(area), nullptr, white);
     if (d_frameEnabled)
     {
         d_frame.setSize(area.getSize());

@@ -1,6 +1,7 @@
 #include "looks/MXScrollbar.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/FixedOrientationProperty.h"
 #include "looks/ScrollbarGeometry.h"
@@ -237,7 +238,7 @@ void MXScrollbarBase::populateGeometryBuffer()
         return;
     GeometryBuffer& buffer = getGeometryBuffer();
     const ColourRect white = withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha());
-    d_background->render(buffer, Rectf(Vector2f(0, 0), getPixelSize()), nullptr, white);
+    drawImage(buffer, *d_background, Rectf(Vector2f(0, 0), getPixelSize()), nullptr, white);
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }

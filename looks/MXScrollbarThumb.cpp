@@ -1,6 +1,7 @@
 #include "looks/MXScrollbarThumb.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "widgets/ButtonDrawState.h"
 
 namespace CEGUI
@@ -105,7 +106,7 @@ void MXScrollbarThumbBase::drawState(const Colour& primary, const Colour& second
     {
         const Vector2f at((own.d_width - grip.d_width) * 0.5f,
                           (own.d_height - grip.d_height) * 0.5f);
-        d_gripper->render(buffer, Rectf(at, grip), nullptr, ColourRect(Colour(0xFFFFFFFF)));
+        drawImage(buffer, *d_gripper, Rectf(at, grip), nullptr, ColourRect(Colour(0xFFFFFFFF)));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "looks/MXSlider.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/FixedOrientationProperty.h"
 #include "widgets/ButtonDrawState.h"
@@ -164,11 +165,11 @@ void MXSlider::populateGeometryBuffer()
     const float h = d_trackMiddle->getRenderedSize().d_height;
     // The thumb sits on the bottom edge; the track's top runs through its middle.
     const float y = area.bottom() - std::trunc(thumbSize.d_height * 0.5f + 0.5f);
-    d_trackLeft->render(buffer, Rectf(Vector2f(area.left(), y), Sizef(lw, h)), nullptr, white);
-    d_trackMiddle->render(buffer, Rectf(Vector2f(area.left() + lw, y), Sizef(mid, h)), nullptr,
-                          white);
-    d_trackRight->render(buffer, Rectf(Vector2f(area.left() + lw + mid, y), Sizef(rw, h)), nullptr,
-                         white);
+    drawImage(buffer, *d_trackLeft, Rectf(Vector2f(area.left(), y), Sizef(lw, h)), nullptr, white);
+    drawImage(buffer, *d_trackMiddle, Rectf(Vector2f(area.left() + lw, y), Sizef(mid, h)), nullptr,
+              white);
+    drawImage(buffer, *d_trackRight, Rectf(Vector2f(area.left() + lw + mid, y), Sizef(rw, h)),
+              nullptr, white);
 
     const Ticks marks = ticks();
     if (marks.count == 0)
@@ -234,8 +235,8 @@ void MXSliderThumb::drawDisabled()
 
 void MXSliderThumb::drawImage(const Image& image)
 {
-    image.render(getGeometryBuffer(), Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
-                 withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha()));
+    MoxieLook::drawImage(getGeometryBuffer(), image, Rectf(Vector2f(0, 0), getPixelSize()), nullptr,
+                         withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha()));
 }
 
 } // namespace MoxieLook

@@ -1,6 +1,7 @@
 #include "looks/MXSmartButtonNodeItem.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "widgets/ButtonEx.h"
 #include "widgets/TextItem.h"
@@ -100,8 +101,8 @@ void MXSmartButtonNodeItem::populateGeometryBuffer()
         return;
     const Rectf at = openedImageRect();
     if (at.getWidth() > 0)
-        GetOpenedImage()->render(getGeometryBuffer(), at, nullptr,
-                                 withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+        drawImage(getGeometryBuffer(), *GetOpenedImage(), at, nullptr,
+                  withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
 }
 
 } // namespace MoxieLook

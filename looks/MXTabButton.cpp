@@ -1,6 +1,7 @@
 #include "looks/MXTabButton.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 #include "widgets/CornerColourProperty.h"
 
@@ -27,7 +28,7 @@ Sizef sizeOf(const Image* image)
 void put(GeometryBuffer& buffer, const Image* image, float x, float y, const Sizef& size,
          const ColourRect& colours)
 {
-    image->render(buffer, Rectf(Vector2f(x, y), size), nullptr, colours);
+    drawImage(buffer, *image, Rectf(Vector2f(x, y), size), nullptr, colours);
 }
 
 ColourRect verticalGradient(const Colour& foot, float alpha)

@@ -1,6 +1,7 @@
 #include "looks/MXTabControl.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 
 #include <CEGUI/CoordConverter.h>
@@ -107,9 +108,9 @@ void MXTabControl::populateGeometryBuffer()
     if (!hasVisibleArea(*this))
         return;
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
-    d_filler->render(getGeometryBuffer(),
-                     Rectf(Vector2f(d_fillerPosition.d_x, d_fillerPosition.d_y), d_fillerSize),
-                     nullptr, white);
+    drawImage(getGeometryBuffer(), *d_filler,
+              Rectf(Vector2f(d_fillerPosition.d_x, d_fillerPosition.d_y), d_fillerSize), nullptr,
+              white);
 }
 
 TabButton* MXTabControlRenderer::createTabButton(const String& name) const

@@ -1,6 +1,7 @@
 #include "looks/MXTabPane.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/MXTabButton.h"
 
 #include <CEGUI/Image.h>
@@ -40,7 +41,7 @@ void TabPanePieces::draw(GeometryBuffer& buffer, const Sizef& area, float alpha,
     const float middle = area.d_width - e.left - e.right;
     const float side = area.d_height - e.top - e.bottom;
     auto put = [&buffer, &tint](const Image* image, float x, float y, float w, float h)
-    { image->render(buffer, Rectf(x, y, x + w, y + h), nullptr, tint); };
+    { drawImage(buffer, *image, Rectf(x, y, x + w, y + h), nullptr, tint); };
     // Column by column, as the pane has always been drawn.
     if (topRow)
         put(d_lower, 0, 0, area.d_width, e.top);

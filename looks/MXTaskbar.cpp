@@ -1,6 +1,7 @@
 #include "looks/MXTaskbar.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 #include "widgets/ButtonDrawState.h"
 #include "widgets/FrameWindowEx.h"
@@ -170,9 +171,10 @@ void MXTaskbarButton::drawPicture(const Image* image, const Image* overlay,
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
     const Sizef normal = d_normal->getRenderedSize();
     const float y = std::trunc((area.d_height - normal.d_height) * 0.5f + 0.5f);
-    image->render(buffer, Rectf(Vector2f(0, y), image->getRenderedSize()), nullptr, white);
+    drawImage(buffer, *image, Rectf(Vector2f(0, y), image->getRenderedSize()), nullptr, white);
     if (overlay)
-        overlay->render(buffer, Rectf(Vector2f(0, y), overlay->getRenderedSize()), nullptr, white);
+        drawImage(buffer, *overlay, Rectf(Vector2f(0, y), overlay->getRenderedSize()), nullptr,
+                  white);
     if (d_customBitmap || !getFont())
         return;
     const float textY = std::trunc((area.d_height - getFont()->getLineSpacing()) * 0.5f + 0.5f);

@@ -1,6 +1,7 @@
 #include "looks/MXTooltip.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/CoordConverter.h>
@@ -83,7 +84,7 @@ void MXTooltip::populateGeometryBuffer()
     d_frame.setSize(size);
     d_frame.setColours(withAlpha(d_frameColours, alpha));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
-    d_background->render(buffer, textArea, nullptr, withAlpha(d_backgroundColours, alpha));
+    drawImage(buffer, *d_background, textArea, nullptr, withAlpha(d_backgroundColours, alpha));
     if (d_target && font)
         drawText(*this, buffer, targetText(), textArea, HorzTextFormat::WordWrapLeft,
                  VertTextFormat::Top, ColourRect(withAlpha(getTextColour(), alpha)), nullptr);

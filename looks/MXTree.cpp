@@ -1,6 +1,7 @@
 #include "looks/MXTree.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/InnerBars.h"
 #include "looks/MXListbox.h"
@@ -143,7 +144,7 @@ void MXTree::cacheTreeBaseImagery()
     GeometryBuffer& buffer = getGeometryBuffer();
     const Rectf area(Vector2f(0, 0), getPixelSize());
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha());
-    d_fill->render(buffer, d_frame.innerRect(area), nullptr, white);
+    drawImage(buffer, *d_fill, d_frame.innerRect(area), nullptr, white);
     d_frame.setSize(area.getSize());
     d_frame.setColours(faded(d_frameColours, getEffectiveAlpha()));
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);

@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "looks/MXScrollablePane.h"
 #include "widgets/TreeViewMultiColumnListEx.h"
@@ -37,13 +38,13 @@ float renderTreeLine(TreeView::Node& node, GeometryBuffer& buffer, const TreeVie
     if (const Image* nav = node.GetNavigationImage())
     {
         const Sizef size = nav->getRenderedSize();
-        nav->render(buffer, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
+        drawImage(buffer, *nav, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
         x += size.d_width;
     }
     if (const Image* icon = node.GetIcon())
     {
         const Sizef size = icon->getRenderedSize();
-        icon->render(buffer, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
+        drawImage(buffer, *icon, Rectf(Vector2f(x, bottom - size.d_height), size), &clip, white);
         x += size.d_width;
     }
     const Font* font = node.IsLeaf() ? tree.getFont(true) : tree.GetTitleFont();
@@ -145,8 +146,8 @@ void TreeViewLookOf<Base>::drawFrame(GeometryBuffer& buffer)
 {
     const float alpha = this->getEffectiveAlpha();
     const ColourRect white(withAlpha(Colour(0x00FFFFFF), alpha));
-    d_background->render(buffer, d_frame.innerRect(Rectf(Vector2f(0, 0), this->getPixelSize())),
-                         nullptr, white);
+    drawImage(buffer, *d_background, d_frame.innerRect(Rectf(Vector2f(0, 0), this->getPixelSize())),
+              nullptr, white);
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include "draw/GlyphRun.h"
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
 #include "widgets/ButtonEx.h"
 
@@ -58,9 +59,9 @@ void MXWidgetDropDownList::performChildWindowLayout(bool nonclientSizedHint, boo
 void MXWidgetDropDownList::populateGeometryBuffer()
 {
     if (hasVisibleArea(*this))
-        lookImage(FillImageName)
-            .render(getGeometryBuffer(), d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())),
-                    nullptr, withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
+        drawImage(getGeometryBuffer(), lookImage(FillImageName),
+                  d_frame.innerRect(Rectf(Vector2f(0, 0), getPixelSize())), nullptr,
+                  withAlpha(ColourRect(Colour(0x00FFFFFF)), getEffectiveAlpha()));
     WidgetDropDownList::populateGeometryBuffer();
 }
 
@@ -71,8 +72,8 @@ void MXWidgetDropDownList::DrawItem(const Window& window, GeometryBuffer& buffer
     const float alpha = window.getEffectiveAlpha();
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
     if (selected || hovered)
-        lookImage(selected ? SelectionBrushImageName : HoverBrushImageName)
-            .render(buffer, row, &clip, white);
+        drawImage(buffer, lookImage(selected ? SelectionBrushImageName : HoverBrushImageName), row,
+                  &clip, white);
 
     float x = row.left() + ImagePadding;
     if (item.image)
@@ -83,7 +84,7 @@ void MXWidgetDropDownList::DrawItem(const Window& window, GeometryBuffer& buffer
         const float scale = size.d_height > 0 ? std::min(1.0f, side / size.d_height) : 1.0f;
         const Sizef drawn(std::floor(size.d_width * scale), std::floor(size.d_height * scale));
         const float top = row.top() + std::floor((row.getHeight() - drawn.d_height) * 0.5f);
-        item.image->render(buffer, Rectf(Vector2f(x, top), drawn), &clip, white);
+        drawImage(buffer, *item.image, Rectf(Vector2f(x, top), drawn), &clip, white);
         x += drawn.d_width + ImagePadding;
     }
     if (const Font* font = window.getFont())

@@ -1,6 +1,7 @@
 #include "widgets/ButtonEx.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "draw/TextDrawing.h"
 #include "module/Soundification.h"
 
@@ -154,7 +155,7 @@ void ButtonEx::drawState(NinePieceFrame& frame, const Image* background, bool us
         {
             frame.setSize(all.getSize());
             frame.setColours(imagery);
-            background->render(buffer, frame.innerRect(all), nullptr, imagery);
+            drawImage(buffer, *background, frame.innerRect(all), nullptr, imagery);
             frame.draw(buffer, all.d_min, nullptr);
             if (useCustomImage)
             {

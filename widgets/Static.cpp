@@ -1,6 +1,7 @@
 #include "widgets/Static.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Image.h>
@@ -108,7 +109,7 @@ void Static::populateGeometryBuffer()
     const float alpha = getEffectiveAlpha();
     const Rectf inner = localInnerRect();
     if (d_backgroundEnabled && d_background)
-        d_background->render(buffer, inner, nullptr, faded(d_backgroundColours, alpha));
+        drawImage(buffer, *d_background, inner, nullptr, faded(d_backgroundColours, alpha));
     if (d_frameEnabled)
     {
         d_frame.setSize(getPixelSize());

@@ -1,6 +1,7 @@
 #include "widgets/TextItemEx.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 
 #include <CEGUI/Image.h>
 #include <algorithm>
@@ -87,12 +88,12 @@ void TextItemEx::drawBackdrop(GeometryBuffer& buffer)
     const Rectf all(Vector2f(0, 0), getPixelSize());
     const Image* brush = d_selected ? d_selectionBrush : d_hovering ? d_hoverBrush : nullptr;
     if (brush)
-        brush->render(buffer, all, nullptr, white);
+        drawImage(buffer, *brush, all, nullptr, white);
     if (d_icon)
     {
         const Sizef size = d_icon->getRenderedSize();
         const Vector2f at(TextPadding, std::trunc((all.getHeight() - size.d_height) * 0.5f + 0.5f));
-        d_icon->render(buffer, Rectf(at, size), nullptr, white);
+        drawImage(buffer, *d_icon, Rectf(at, size), nullptr, white);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "widgets/WidgetDropDownListbox.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "widgets/ButtonEx.h"
 
 #include <CEGUI/Image.h>
@@ -198,7 +199,7 @@ void WidgetDropDownListbox::populateGeometryBuffer()
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
     const Rectf content = contentArea();
     if (const Image* fill = fillImage())
-        fill->render(buffer, content, nullptr, white);
+        drawImage(buffer, *fill, content, nullptr, white);
     if (d_selected >= 0 && static_cast<unsigned>(d_selected) < d_list->GetItemCount())
         d_list->DrawItem(*this, buffer, d_list->GetItem(static_cast<unsigned>(d_selected)), content,
                          content, true, false);
