@@ -174,7 +174,7 @@ ListboxItem* ListDrawing::itemAt(const Listbox& list, const Vector2f& screenPoin
     const Vector2f local = CoordConverter::screenToWindow(list, screenPoint);
     if (!area.isPointInRect(local))
         return nullptr;
-    const float y = local.d_y - area.top() + list.getVertScrollbar()->getScrollPosition();
+    const float y = local.d_y - area.top() + scrollOf(list, Listbox::VertScrollbarName);
     const auto above = std::upper_bound(d_tops.begin(), d_tops.end(), y);
     if (above == d_tops.begin() || above == d_tops.end())
         return nullptr;
@@ -206,8 +206,8 @@ void ListDrawing::draw(Listbox& list)
     if (!d_measured)
         measure(list);
     const Rectf area = renderArea(list);
-    const float left = area.left() - list.getHorzScrollbar()->getScrollPosition();
-    const float top = area.top() - list.getVertScrollbar()->getScrollPosition();
+    const float left = area.left() - scrollOf(list, Listbox::HorzScrollbarName);
+    const float top = area.top() - scrollOf(list, Listbox::VertScrollbarName);
     const float width = std::max(area.getWidth(), d_widest);
     // A disabled list shows its items faded.
     const float itemAlpha = list.isEffectiveDisabled() ? alpha * 0.5f : alpha;

@@ -113,6 +113,17 @@ void MultiColumnListLookOf<Base>::initialiseComponents()
 }
 
 template <typename Base>
+typename MultiColumnListLookOf<Base>::Parts MultiColumnListLookOf<Base>::parts() const
+{
+    Parts found{partOrNull<ListHeader>(*this, Base::ListHeaderName),
+                partOrNull<Scrollbar>(*this, Base::VertScrollbarName),
+                partOrNull<Scrollbar>(*this, Base::HorzScrollbarName)};
+    if (!found.header || !found.vert || !found.horz)
+        return {};
+    return found;
+}
+
+template <typename Base>
 Rectf MultiColumnListLookOf<Base>::frameInner() const
 {
     return d_frame.innerRect(Rectf(Vector2f(0, 0), this->getPixelSize()));
@@ -123,13 +134,13 @@ void MultiColumnListLookOf<Base>::performChildWindowLayout(bool nonclientSizedHi
                                                            bool clientSizedHint)
 {
     Base::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
-    if (!this->isChild(Base::ListHeaderName) || !this->isChild(Base::VertScrollbarName) ||
-        !this->isChild(Base::HorzScrollbarName))
+    const Parts parts = this->parts();
+    if (!parts.header)
         return; // still being built
     const Rectf inner = frameInner();
-    ListHeader* header = this->getListHeader();
-    Scrollbar* vert = this->getVertScrollbar();
-    Scrollbar* horz = this->getHorzScrollbar();
+    ListHeader* header = parts.header;
+    Scrollbar* vert = parts.vert;
+    Scrollbar* horz = parts.horz;
     const float t = ScrollbarThickness;
     const float right = vert->isVisible() ? t : 0.0f;
     const float bottom = horz->isVisible() ? t : 0.0f;
@@ -153,13 +164,13 @@ Rectf MultiColumnListLookOf<Base>::listRenderArea() const
     // that is no number would never let them.
     if (!isFiniteRect(area))
         return Rectf(0, 0, 0, 0);
-    if (!this->isChild(Base::ListHeaderName) || !this->isChild(Base::VertScrollbarName) ||
-        !this->isChild(Base::HorzScrollbarName))
+    const Parts parts = this->parts();
+    if (!parts.header)
         return area;
-    area.d_min.d_y += this->getListHeader()->getPixelSize().d_height;
-    if (this->getVertScrollbar()->isVisible())
+    area.d_min.d_y += parts.header->getPixelSize().d_height;
+    if (parts.vert->isVisible())
         area.d_max.d_x -= ScrollbarThickness;
-    if (this->getHorzScrollbar()->isVisible())
+    if (parts.horz->isVisible())
         area.d_max.d_y -= ScrollbarThickness;
     area.d_max.d_x = std::max(area.d_max.d_x, area.d_min.d_x);
     area.d_max.d_y = std::max(area.d_max.d_y, area.d_min.d_y);
@@ -179,11 +190,14 @@ void MultiColumnListLookOf<Base>::drawList()
     d_frame.setColours(white);
     d_frame.draw(buffer, Vector2f(0, 0), nullptr);
 
+    const Parts parts = this->parts();
+    if (!parts.header)
+        return;
     const Rectf area = listRenderArea();
-    const ListHeader* header = this->getListHeader();
-    const uint columns = this->getColumnCount();
-    const float dx = this->getHorzScrollbar()->getScrollPosition();
-    const float dy = this->getVertScrollbar()->getScrollPosition();
+    const ListHeader* header = parts.header;
+    const uint columns = header->getColumnCount();
+    const float dx = parts.horz->getScrollPosition();
+    const float dy = parts.vert->getScrollPosition();
     std::vector<float> lefts(columns + 1, area.left() - dx);
     for (uint column = 0; column < columns; ++column)
         lefts[column + 1] =

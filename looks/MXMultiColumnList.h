@@ -79,6 +79,15 @@ protected:
     //! The inside of the frame, window-local.
     Rectf frameInner() const;
 
+    //! Header and bars, all null until all three are made.
+    struct Parts
+    {
+        ListHeader* header = nullptr;
+        Scrollbar* vert = nullptr;
+        Scrollbar* horz = nullptr;
+    };
+    Parts parts() const;
+
     NinePieceFrame d_frame;
     const Image* d_background;
     const Image* d_selectionBrush;

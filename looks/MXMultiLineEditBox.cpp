@@ -108,9 +108,9 @@ void MXMultiLineEditBox::populateGeometryBuffer()
     if (line >= lines.size())
         return;
     const std::size_t inLine = getCaretIndex() - lines[line].d_startIdx;
-    const float x = area.left() - getHorzScrollbar()->getScrollPosition() +
+    const float x = area.left() - scrollOf(*this, HorzScrollbarName) +
                     font->getTextAdvance(getText().substr(lines[line].d_startIdx, inLine));
-    const float y = area.top() - getVertScrollbar()->getScrollPosition() +
+    const float y = area.top() - scrollOf(*this, VertScrollbarName) +
                     static_cast<float>(line) * font->getLineSpacing();
     const float width = d_imagery.caret().getRenderedSize().d_width;
     drawImage(buffer, d_imagery.caret(),
@@ -134,8 +134,8 @@ void MXMultiLineEditBox::drawLines(GeometryBuffer& buffer, const Rectf& area)
     const Image& selection = ownBrush ? d_imagery.selection(hasInputFocus()) : *hostBrush;
     const LineList& lines = getFormattedLines();
     const String& text = getTextVisual();
-    const float left = area.left() - getHorzScrollbar()->getScrollPosition();
-    const float scroll = getVertScrollbar()->getScrollPosition();
+    const float left = area.left() - scrollOf(*this, HorzScrollbarName);
+    const float scroll = scrollOf(*this, VertScrollbarName);
 
     // Only the lines in view: from the first the scroll position reaches, one area high.
     const std::size_t first = static_cast<std::size_t>(std::max(0.0f, scroll / spacing));

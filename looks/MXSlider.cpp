@@ -101,7 +101,9 @@ void MXSlider::performChildWindowLayout(bool nonclientSizedHint, bool clientSize
 
 void MXSlider::updateThumb()
 {
-    Thumb* thumb = getThumb();
+    Thumb* thumb = partOrNull<Thumb>(*this, ThumbName);
+    if (!thumb)
+        return;
     const Sizef own = getPixelSize();
     const Sizef thumbSize = thumb->getPixelSize();
     const float free = own.d_width - thumbSize.d_width;
@@ -156,7 +158,9 @@ void MXSlider::populateGeometryBuffer()
     GeometryBuffer& buffer = getGeometryBuffer();
     const ColourRect white = withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha());
     const Rectf area(Vector2f(0, 0), getPixelSize());
-    const Window* thumb = getThumb();
+    const Window* thumb = partOrNull(*this, ThumbName);
+    if (!thumb)
+        return;
     const Sizef thumbSize = thumb->getPixelSize();
 
     const float lw = d_trackLeft->getRenderedSize().d_width;
