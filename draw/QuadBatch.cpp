@@ -113,6 +113,40 @@ void QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf*
     put(v[5], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
 }
 
+void QuadBatch::addRow(const Image& image, const Vector2f& first, float spacing, int from, int to,
+                       const ColourRect& colours)
+{
+    if (from >= to)
+        return;
+    const BasicImage* basic = plainBasicImage(&image);
+    const Sizef& size = image.getRenderedSize();
+    const Vector2f start(first.d_x + static_cast<float>(from) * spacing, first.d_y);
+    if (!basic)
+    {
+        for (int i = from; i < to; ++i)
+            add(image,
+                Rectf(Vector2f(first.d_x + static_cast<float>(i) * spacing, first.d_y), size),
+                nullptr, colours);
+        return;
+    }
+    const std::size_t at = shared().used;
+    add(*basic, Rectf(start, size), nullptr, colours);
+    if (shared().used == at)
+        return; // nothing to see of it
+    // The quad's place may move when the shared vertices grow.
+    Vertex* copies = grow(6 * static_cast<std::size_t>(to - from - 1));
+    const Vertex* quad = shared().vertices.data() + at;
+    for (int i = 1; i < to - from; ++i)
+    {
+        const float shift = static_cast<float>(i) * spacing;
+        for (int corner = 0; corner < 6; ++corner, ++copies)
+        {
+            *copies = quad[corner];
+            copies->position.d_x += shift;
+        }
+    }
+}
+
 void QuadBatch::flush()
 {
     SharedVertices& all = shared();

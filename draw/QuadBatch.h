@@ -35,6 +35,12 @@ public:
     void add(const BasicImage& image, const Rectf& dest, const Rectf* clip,
              const ColourRect& colours);
 
+    //! The image at its natural size at `first` + (i × `spacing`, 0) for every i in [from,
+    //! to): drawn once and copied along, the same vertices as drawing it at each place.
+    //! `spacing` is a whole number of pixels, so every copy keeps CEGUI's pixel alignment.
+    void addRow(const Image& image, const Vector2f& first, float spacing, int from, int to,
+                const ColourRect& colours);
+
     void flush();
 
 private:

@@ -18,8 +18,7 @@ const char* MXSlider::ThumbType = "MoxieLook/SliderThumb";
 MXSlider::MXSlider(const String& type, const String& name)
     : RedrawnWhenUncovered<Slider>(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
       d_trackMiddle(&lookImage(TrackMiddleImageName)),
-      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName)),
-      d_tickStamp(*d_tick)
+      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
@@ -195,8 +194,8 @@ void MXSlider::populateGeometryBuffer()
                               static_cast<float>(marks.count - 1));
     if (!(from <= to))
         return;
-    d_tickStamp.stamp(buffer, first, marks.spacing, static_cast<int>(from),
-                      static_cast<int>(to) + 1, white);
+    QuadBatch(buffer).addRow(*d_tick, first, marks.spacing, static_cast<int>(from),
+                             static_cast<int>(to) + 1, white);
 }
 
 MXSliderThumb::MXSliderThumb(const String& type, const String& name)

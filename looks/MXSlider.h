@@ -5,7 +5,6 @@
 // the thumb: "SliderThumbNormal", "SliderThumbHover", cursor "MouseEsWeCursor".
 #pragma once
 
-#include "draw/ImageStamp.h"
 #include "draw/RedrawnWhenUncovered.h"
 #include "looks/LookFactory.h"
 
@@ -75,7 +74,6 @@ private:
     const Image* d_trackMiddle;
     const Image* d_trackRight;
     const Image* d_tick;
-    ImageStamp d_tickStamp;
 };
 
 class MXSliderThumb : public RedrawnWhenUncovered<Thumb>

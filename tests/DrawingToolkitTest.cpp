@@ -279,4 +279,13 @@ TEST(QuadBatch, DrawsWhatCeguisImagesDrawInTheOrderGiven)
     }
     EXPECT_GT(verticesOf(cegui).size(), 6u * 40);
     expectSameVertices(cegui, ours, "images");
+
+    // A row of one image, drawn once and copied along, as drawing it at each place.
+    RecordingGeometryBuffer placed, row;
+    const Image& tick = lookImage("SliderTick");
+    for (int i = 2; i < 9; ++i)
+        tick.render(placed, Rectf(Vector2f(3.6f + i * 7.0f, 4.2f), tick.getRenderedSize()), nullptr,
+                    gradient);
+    QuadBatch(row).addRow(tick, Vector2f(3.6f, 4.2f), 7.0f, 2, 9, gradient);
+    expectSameVertices(placed, row, "row");
 }
