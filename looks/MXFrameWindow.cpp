@@ -55,13 +55,13 @@ MXFrameWindow::MXFrameWindow(const String& type, const String& name)
 
 void MXFrameWindow::setCaptionColour(const ColourRect& colours)
 {
-    if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
+    if (auto* bar = dynamic_cast<MXTitlebar*>(titlebarPart()))
         bar->setCaptionColour(colours);
 }
 
 ColourRect MXFrameWindow::getCaptionColour() const
 {
-    if (auto* bar = dynamic_cast<MXTitlebar*>(isChild(TitlebarName) ? getTitlebar() : nullptr))
+    if (auto* bar = dynamic_cast<MXTitlebar*>(titlebarPart()))
         return bar->getCaptionColour();
     return ColourRect(opaque(MXTitlebar::ActiveTextColour));
 }
@@ -79,11 +79,12 @@ ColourRect MXFrameWindow::getClientAreaColour() const
 
 void MXFrameWindow::setTitlebarFont(const String& name)
 {
-    if (!isChild(TitlebarName))
+    Titlebar* titlebar = titlebarPart();
+    if (!titlebar)
         return;
     try
     {
-        getTitlebar()->setFont(name);
+        titlebar->setFont(name);
     }
     catch (const UnknownObjectException&)
     {
@@ -93,9 +94,10 @@ void MXFrameWindow::setTitlebarFont(const String& name)
 
 String MXFrameWindow::getTitlebarFont() const
 {
-    if (!isChild(TitlebarName))
+    const Titlebar* titlebar = titlebarPart();
+    if (!titlebar)
         return "";
-    const Font* font = getTitlebar()->getFont(false);
+    const Font* font = titlebar->getFont(false);
     return font ? font->getName() : String();
 }
 
@@ -154,10 +156,10 @@ Window* MXFrameWindow::createContentPane(const String& name) const
 void MXFrameWindow::performChildWindowLayout(bool nonclientSizedHint, bool clientSizedHint)
 {
     FrameWindowEx::performChildWindowLayout(nonclientSizedHint, clientSizedHint);
-    if (!isChild(TitlebarName))
+    Window* titlebar = titlebarPart();
+    if (!titlebar)
         return; // still being built
     const float width = getPixelSize().d_width;
-    Window* titlebar = getTitlebar();
     const auto* bar = dynamic_cast<const MXTitlebar*>(titlebar);
     const float height = bar ? bar->barHeight() : titlebar->getPixelSize().d_height;
     titlebar->setArea(UVector2(cegui_absdim(TitlebarXOffset), cegui_absdim(TitlebarYOffset)),
@@ -166,8 +168,8 @@ void MXFrameWindow::performChildWindowLayout(bool nonclientSizedHint, bool clien
     // Close at the right end, then minimise, then roll-up, each as large as its picture.
     float right = width - ButtonRightMargin;
     for (Window* button :
-         {static_cast<Window*>(isChild(CloseButtonName) ? getCloseButton() : nullptr),
-          static_cast<Window*>(d_minimizeButton), static_cast<Window*>(d_titleizeButton)})
+         {static_cast<Window*>(closeButtonPart()), static_cast<Window*>(d_minimizeButton),
+          static_cast<Window*>(d_titleizeButton)})
     {
         if (!button)
             continue;
@@ -189,8 +191,9 @@ Rectf MXFrameWindow::getUnclippedInnerRect_impl(bool skipAllPixelAlignment) cons
                                        : getUnclippedOuterRect().get();
     if (!isFrameEnabled())
         return rect;
-    const float title = isChild(TitlebarName) && getTitlebar()->isVisible()
-                            ? getTitlebar()->getPixelSize().d_height
+    const Titlebar* titlebar = titlebarPart();
+    const float title = titlebar && titlebar->isVisible()
+                            ? titlebar->getPixelSize().d_height
                             : d_frame.pieceHeight(NinePieceFrame::Top);
     rect.d_min.d_x += d_frame.pieceWidth(NinePieceFrame::Left);
     rect.d_min.d_y += title;
@@ -233,16 +236,16 @@ void MXFrameWindow::onActivated(ActivationEventArgs& e)
 {
     FrameWindowEx::onActivated(e);
     invalidate();
-    if (isChild(TitlebarName))
-        getTitlebar()->invalidate();
+    if (Titlebar* titlebar = titlebarPart())
+        titlebar->invalidate();
 }
 
 void MXFrameWindow::onDeactivated(ActivationEventArgs& e)
 {
     FrameWindowEx::onDeactivated(e);
     invalidate();
-    if (isChild(TitlebarName))
-        getTitlebar()->invalidate();
+    if (Titlebar* titlebar = titlebarPart())
+        titlebar->invalidate();
 }
 
 Rectf MXFrameWindow::animationFrame(const Rectf& window, const Rectf& taskbar, unsigned step,

@@ -72,6 +72,16 @@ void FrameWindowEx::initialiseComponents()
     onSized(args);
 }
 
+Titlebar* FrameWindowEx::titlebarPart() const
+{
+    return d_titlebarPart && Element::isChild(d_titlebarPart) ? d_titlebarPart : nullptr;
+}
+
+PushButton* FrameWindowEx::closeButtonPart() const
+{
+    return d_closeButtonPart && Element::isChild(d_closeButtonPart) ? d_closeButtonPart : nullptr;
+}
+
 bool FrameWindowEx::isPart(const Window* window) const
 {
     return window &&
@@ -107,11 +117,12 @@ NamedElement* FrameWindowEx::getChildByNamePath_impl(const String& namePath) con
 void FrameWindowEx::onSized(ElementEventArgs& e)
 {
     FrameWindow::onSized(e);
-    if (!d_contentPane || !isChild(TitlebarName))
+    const Titlebar* titlebar = titlebarPart();
+    if (!d_contentPane || !titlebar)
         return;
     const Sizef size = getPixelSize();
     const float border = getSizingBorderThickness();
-    const float title = getTitlebar()->getPixelSize().d_height;
+    const float title = titlebar->getPixelSize().d_height;
     d_contentPane->setArea(UVector2(cegui_absdim(border), cegui_absdim(title)),
                            USize(cegui_absdim(size.d_width - 2 * border),
                                  cegui_absdim(size.d_height - border - title)));

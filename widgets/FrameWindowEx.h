@@ -88,6 +88,13 @@ protected:
     PushButton* d_minimizeButton = nullptr;
     PushButton* d_titleizeButton = nullptr;
 
+protected:
+    //! The title bar and close button this window made, while they are its children; null
+    //! before they are made. Asked by address: CEGUI's lookup by name is costly here, where
+    //! it also searches the content pane.
+    Titlebar* titlebarPart() const;
+    PushButton* closeButtonPart() const;
+
 private:
     bool isPart(const Window* window) const;
     void finishRestoring();
