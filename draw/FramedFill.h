@@ -2,6 +2,8 @@
 // drawn over it.
 #pragma once
 
+#include "draw/NinePieceFrame.h"
+
 #include <CEGUI/ColourRect.h>
 #include <CEGUI/Rect.h>
 
@@ -12,7 +14,6 @@ class Image;
 
 namespace MoxieLook
 {
-class NinePieceFrame;
 
 //! How far the fill stays inside each side of the area.
 struct EdgeInsets
@@ -25,6 +26,14 @@ struct EdgeInsets
                      area.bottom() - bottom);
     }
 };
+
+//! A frame's edge thicknesses: its left and right pieces' widths, its top and bottom
+//! pieces' heights.
+inline EdgeInsets edgesOf(const NinePieceFrame& frame)
+{
+    return {frame.pieceWidth(NinePieceFrame::Left), frame.pieceHeight(NinePieceFrame::Top),
+            frame.pieceWidth(NinePieceFrame::Right), frame.pieceHeight(NinePieceFrame::Bottom)};
+}
 
 void drawFramedFill(GeometryBuffer& buffer, const Rectf& area, const Image& fill,
                     const ColourRect& fillColours, const NinePieceFrame& frame,

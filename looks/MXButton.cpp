@@ -29,7 +29,6 @@ const Colour MXButton::DisabledTextLabelColour(0x00888888);
 
 MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, name)
 {
-    storeFrameSizes();
     d_normalFrame.setImages({NormalTopLeftImageName, NormalTopRightImageName,
                              NormalBottomLeftImageName, NormalBottomRightImageName,
                              NormalLeftImageName, NormalTopImageName, NormalRightImageName,
@@ -41,6 +40,7 @@ MXButton::MXButton(const String& type, const String& name) : PushButtonEx(type, 
                              PushedBottomLeftImageName, PushedBottomRightImageName,
                              PushedLeftImageName, PushedTopImageName, PushedRightImageName,
                              PushedBottomImageName});
+    storeFrameSizes();
     d_background = &lookImage(BackgroundImageName);
     setMouseCursor(&lookImage(MouseCursorImageName));
 
@@ -122,10 +122,8 @@ FormattedImage::VertFormatting formattingOf(VerticalFormatting formatting)
 
 void MXButton::storeFrameSizes()
 {
-    d_frameSizes.left = lookImage(NormalLeftImageName).getRenderedSize().d_width;
-    d_frameSizes.right = lookImage(NormalRightImageName).getRenderedSize().d_width;
-    d_frameSizes.top = lookImage(NormalTopImageName).getRenderedSize().d_height;
-    d_frameSizes.bottom = lookImage(NormalBottomImageName).getRenderedSize().d_height;
+    // The frame's own edges: the same images, already fetched.
+    d_frameSizes = edgesOf(d_normalFrame);
 }
 
 void MXButton::drawNormal()

@@ -70,10 +70,8 @@ MXScrollbarBase::MXScrollbarBase(const String& type, const String& name,
 
 void MXScrollbarBase::storeFrameSizes()
 {
-    d_frameSizes.left = lookImage(LeftFrameImageName).getRenderedSize().d_width;
-    d_frameSizes.top = lookImage(TopFrameImageName).getRenderedSize().d_height;
-    d_frameSizes.right = lookImage(RightFrameImageName).getRenderedSize().d_width;
-    d_frameSizes.bottom = lookImage(BottomFrameImageName).getRenderedSize().d_height;
+    // The frame's own edges: the same images, already fetched.
+    d_frameSizes = edgesOf(d_frame);
 }
 
 Vector2f MXScrollbarBase::point(float alongAxis, float acrossAxis) const

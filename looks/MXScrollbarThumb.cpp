@@ -52,10 +52,8 @@ MXScrollbarThumbBase::MXScrollbarThumbBase(const String& type, const String& nam
 
 void MXScrollbarThumbBase::storeFrameSizes()
 {
-    d_frameSizes.left = lookImage(NormalLeftImageName).getRenderedSize().d_width;
-    d_frameSizes.right = lookImage(NormalRightImageName).getRenderedSize().d_width;
-    d_frameSizes.top = lookImage(NormalTopImageName).getRenderedSize().d_height;
-    d_frameSizes.bottom = lookImage(NormalBottomImageName).getRenderedSize().d_height;
+    // The frame's own edges: the same images, already fetched.
+    d_frameSizes = edgesOf(d_normalFrame);
 }
 
 void MXScrollbarThumbBase::populateGeometryBuffer()

@@ -1,5 +1,6 @@
 #include "widgets/TooltipEx.h"
 
+#include "draw/GlyphRun.h"
 #include "draw/TextDrawing.h"
 
 #include <CEGUI/Exceptions.h>
@@ -164,12 +165,12 @@ const TooltipEx::Words& TooltipEx::words(const Font& font) const
         const String::size_type end = std::min(text.find_first_of(" \t\n", start), text.length());
         if (end > start)
         {
-            d_words.widths.push_back(font.getTextExtent(text.substr(start, end - start)));
+            d_words.widths.push_back(glyphExtent(font, text.substr(start, end - start)));
             d_words.widest = std::max(d_words.widest, d_words.widths.back());
         }
         start = end + 1;
     }
-    d_words.space = font.getTextExtent(" ");
+    d_words.space = glyphExtent(font, " ");
     return d_words;
 }
 
