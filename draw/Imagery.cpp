@@ -3,9 +3,10 @@
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/Window.h>
 #include <cmath>
-#include <map>
+#include <forward_list>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace CEGUI
 {
@@ -21,10 +22,14 @@ const Image& lookImage(const char* name)
     // Looks fetch dozens of images each time one is made; CEGUI's strings are slow to
     // build, so each full name is built once. Images themselves are asked for every time:
     // a host may reload the imageset.
-    static std::map<std::string, String, std::less<>> fullNames;
+    static std::forward_list<std::string> keys; // where the map's views point
+    static std::unordered_map<std::string_view, String> fullNames;
     auto known = fullNames.find(std::string_view(name));
     if (known == fullNames.end())
-        known = fullNames.emplace(name, String(ImagesetName) + '/' + name).first;
+    {
+        keys.emplace_front(name);
+        known = fullNames.emplace(keys.front(), String(ImagesetName) + '/' + name).first;
+    }
     return ImageManager::getSingleton().get(known->second);
 }
 

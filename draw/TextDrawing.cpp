@@ -181,6 +181,13 @@ void drawOneLine(GeometryBuffer& buffer, const std::vector<TextPiece>& pieces, f
     }
 }
 
+// Reused from call to call: a label is measured on every draw.
+std::vector<TextPiece>& scratchPieces()
+{
+    static std::vector<TextPiece> pieces;
+    return pieces;
+}
+
 bool isOneLineFormat(HorzTextFormat horz)
 {
     return horz == HorzTextFormat::Left || horz == HorzTextFormat::Right ||
@@ -202,7 +209,7 @@ float drawText(const Window& window, GeometryBuffer& buffer, const RenderedStrin
                const Rectf& area, HorzTextFormat horz, VertTextFormat vert,
                const ColourRect& colours, const Rectf* clip)
 {
-    static std::vector<TextPiece> pieces;
+    std::vector<TextPiece>& pieces = scratchPieces();
     Sizef line;
     if (isOneLineFormat(horz) && measureOneLine(window, text, pieces, line))
     {
@@ -228,6 +235,21 @@ Sizef measureText(const Window& window, const RenderedString& text, float width,
     auto formatted = formatterFor(text, horz);
     formatted->format(&window, Sizef(width, 0.0f));
     return Sizef(formatted->getHorizontalExtent(&window), formatted->getVerticalExtent(&window));
+}
+
+Sizef unwrappedSize(const Window& window, const RenderedString& text)
+{
+    Sizef size;
+    if (measureOneLine(window, text, scratchPieces(), size))
+        return size;
+    size = Sizef(0.0f, 0.0f);
+    for (std::size_t line = 0; line < text.getLineCount(); ++line)
+    {
+        const Sizef lineSize = text.getPixelSize(&window, line);
+        size.d_height += lineSize.d_height;
+        size.d_width = std::max(size.d_width, lineSize.d_width);
+    }
+    return size;
 }
 
 TextLines countLines(const Window& window, const RenderedString& text, float width,

@@ -71,6 +71,9 @@ float drawText(const Window& window, GeometryBuffer& buffer, const RenderedStrin
 Sizef measureText(const Window& window, const RenderedString& text, float width,
                   HorzTextFormat horz);
 
+//! The size of `text` unwrapped, as CEGUI measures it: its widest line, its lines' heights.
+Sizef unwrappedSize(const Window& window, const RenderedString& text);
+
 //! The lines `text` takes in an area of `width` pixels, and the widest of them.
 struct TextLines
 {

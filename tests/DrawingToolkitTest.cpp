@@ -223,6 +223,14 @@ TEST(TextDrawing, OneLineLabelsDrawAsCeguisFormattersDo)
     {
         label.setText(text);
         const RenderedString& rendered = label.getRenderedString();
+        Sizef unwrapped(0, 0);
+        for (std::size_t line = 0; line < rendered.getLineCount(); ++line)
+        {
+            unwrapped.d_height += rendered.getPixelSize(&label, line).d_height;
+            unwrapped.d_width =
+                std::max(unwrapped.d_width, rendered.getPixelSize(&label, line).d_width);
+        }
+        EXPECT_EQ(unwrappedSize(label, rendered), unwrapped) << text;
         const std::pair<HorzTextFormat, std::shared_ptr<FormattedRenderedString>> formats[] = {
             {HorzTextFormat::Left, std::make_shared<LeftAlignedRenderedString>(rendered)},
             {HorzTextFormat::Right, std::make_shared<RightAlignedRenderedString>(rendered)},

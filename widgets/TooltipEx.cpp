@@ -213,7 +213,7 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
     // word CEGUI would break words apart, so the search stops there.
     const Words& measured = words(*font);
     const float widestWord = measured.widest;
-    float fits = getTextSize_impl().d_width;
+    float fits = unwrappedSize(*this, getRenderedString()).d_width;
     float tooNarrow = widestWord;
 
     // Searched first on the words' widths; CEGUI's wrapping has the last word, and where
@@ -256,7 +256,7 @@ Sizef TooltipEx::getTextSize(unsigned lines) const
 
 Sizef TooltipEx::getTextSize() const
 {
-    Sizef size = getTextSize_impl();
+    Sizef size = unwrappedSize(*this, getRenderedString());
     if (getText().empty())
         return size;
     unsigned lines = static_cast<unsigned>(std::max<size_t>(getRenderedString().getLineCount(), 1));
