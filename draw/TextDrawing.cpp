@@ -9,7 +9,9 @@
 #include <CEGUI/RenderedStringTextComponent.h>
 #include <CEGUI/RenderedStringWordWrapper.h>
 #include <CEGUI/RightAlignedRenderedString.h>
+#include <CEGUI/TextUtils.h>
 #include <CEGUI/Window.h>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <typeinfo>
@@ -252,9 +254,80 @@ Sizef unwrappedSize(const Window& window, const RenderedString& text)
     return size;
 }
 
+namespace
+{
+// CEGUI's word wrapper on one plain piece of text, step for step: the text is split where
+// the next word (with the blanks before it) would pass `width`, a first word too long for
+// a line is cut at the width, and the blanks after a split are dropped. Measured through the
+// glyph table; CEGUI's wrapper copies and re-measures the whole string at every line.
+TextLines wrapOnePiece(const Font& font, const String& text, float width)
+{
+    const String& blanks = TextUtils::DefaultWrapDelimiters;
+    auto nextToken = [&](const String& s, std::size_t from)
+    {
+        std::size_t word = s.find_first_not_of(blanks, from);
+        if (word == String::npos)
+            word = from;
+        const std::size_t end = std::min(s.find_first_of(blanks, word), s.length());
+        return end - from;
+    };
+    TextLines lines{0, 0.0f};
+    String rest = text;
+    for (float restWidth; (restWidth = glyphExtent(font, rest)) > 0 && restWidth > width;)
+    {
+        String left;
+        if (rest.length() <= 1)
+        {
+            left.swap(rest); // cannot be split: it makes a line of its own
+        }
+        else
+        {
+            std::size_t leftLength = 0;
+            float leftWidth = 0.0f;
+            while (leftLength < rest.length())
+            {
+                const std::size_t token = nextToken(rest, leftLength);
+                if (token == 0)
+                    break;
+                const float tokenWidth = glyphExtent(font, rest.substr(leftLength, token));
+                if (leftWidth + tokenWidth > width)
+                {
+                    if (leftLength == 0)
+                        leftLength = std::max<std::size_t>(
+                            1, font.getCharAtPixel(rest.substr(0, token), width));
+                    break;
+                }
+                leftLength += token;
+                leftWidth += tokenWidth;
+            }
+            std::size_t restStart = rest.find_first_not_of(blanks, leftLength);
+            if (restStart == String::npos)
+                restStart = leftLength;
+            if (restStart == 0)
+                break; // nothing would move on: CEGUI's wrapper would go round for ever
+            left = rest.substr(0, leftLength);
+            rest = rest.substr(restStart);
+        }
+        ++lines.count;
+        lines.widest = std::max(lines.widest, glyphExtent(font, left));
+    }
+    ++lines.count;
+    lines.widest = std::max(lines.widest, glyphExtent(font, rest));
+    return lines;
+}
+} // namespace
+
 TextLines countLines(const Window& window, const RenderedString& text, float width,
                      HorzTextFormat horz)
 {
+    const bool wrapped = horz == HorzTextFormat::WordWrapLeft ||
+                         horz == HorzTextFormat::WordWrapRight ||
+                         horz == HorzTextFormat::WordWrapCentred;
+    std::vector<TextPiece>& pieces = scratchPieces();
+    Sizef line;
+    if (wrapped && measureOneLine(window, text, pieces, line) && pieces.size() == 1 &&
+        pieces[0].font && pieces[0].component->getPadding() == Rectf(0, 0, 0, 0))
+        return wrapOnePiece(*pieces[0].font, pieces[0].component->getText(), width);
     auto formatted = formatterFor(text, horz);
     formatted->format(&window, Sizef(width, 0.0f));
     return {formatted->getFormattedLineCount(), formatted->getHorizontalExtent(&window)};

@@ -12,10 +12,12 @@
 #include <CEGUI/FontManager.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/LeftAlignedRenderedString.h>
+#include <CEGUI/RenderedStringWordWrapper.h>
 #include <CEGUI/RightAlignedRenderedString.h>
 #include <CEGUI/Window.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <random>
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
@@ -296,4 +298,47 @@ TEST(QuadBatch, DrawsWhatCeguisImagesDrawInTheOrderGiven)
                     gradient);
     QuadBatch(row).addRow(tick, Vector2f(3.6f, 4.2f), 7.0f, 2, 9, gradient);
     expectSameVertices(placed, row, "row");
+}
+
+TEST(TextDrawing, CountsWrappedLinesAsCeguisWrapperDoes)
+{
+    moxietest::freshSheet();
+    Window& label = moxietest::place("DefaultWindow", 0, 0, 300, 60);
+    std::mt19937 random(7);
+    auto pick = [&](int below)
+    { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+    std::vector<std::string> texts = {"",
+                                      "x",
+                                      " ",
+                                      "word",
+                                      "  leading and trailing ",
+                                      "Averyveryverylongwordthatcannotfit on a line",
+                                      "tabs\tand  doubled   blanks",
+                                      "a b c d e f g h i j"};
+    for (int i = 0; i < 60; ++i)
+    {
+        std::string text;
+        for (int words = 1 + pick(12); words > 0; --words)
+        {
+            text += std::string(static_cast<std::size_t>(pick(3)), ' ');
+            for (int letters = 1 + pick(14); letters > 0; --letters)
+                text += static_cast<char>("aeiouwmxylTQ.,"[pick(14)]);
+        }
+        texts.push_back(text);
+    }
+    for (const std::string& text : texts)
+    {
+        label.setText(text);
+        const RenderedString& rendered = label.getRenderedString();
+        for (const float width : {0.5f, 4.0f, 9.0f, 23.5f, 40.0f, 77.0f, 150.0f, 400.0f})
+        {
+            RenderedStringWordWrapper<LeftAlignedRenderedString> cegui(rendered);
+            cegui.format(&label, Sizef(width, 0));
+            const TextLines ours = countLines(label, rendered, width, HorzTextFormat::WordWrapLeft);
+            EXPECT_EQ(ours.count, cegui.getFormattedLineCount())
+                << '"' << text << "\" at " << width;
+            EXPECT_EQ(ours.widest, cegui.getHorizontalExtent(&label))
+                << '"' << text << "\" at " << width;
+        }
+    }
 }
