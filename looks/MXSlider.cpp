@@ -7,6 +7,10 @@
 #include "widgets/ButtonDrawState.h"
 #include "widgets/WheelForwarding.h"
 
+#include <CEGUI/Renderer.h>
+#include <CEGUI/RenderingContext.h>
+#include <CEGUI/RenderingSurface.h>
+#include <CEGUI/System.h>
 #include <cmath>
 
 namespace CEGUI
@@ -18,7 +22,8 @@ const char* MXSlider::ThumbType = "MoxieLook/SliderThumb";
 MXSlider::MXSlider(const String& type, const String& name)
     : RedrawnWhenUncovered<Slider>(type, name), d_trackLeft(&lookImage(TrackLeftImageName)),
       d_trackMiddle(&lookImage(TrackMiddleImageName)),
-      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName))
+      d_trackRight(&lookImage(TrackRightImageName)), d_tick(&lookImage(CalibrationMarkImageName)),
+      d_ticks(&System::getSingleton().getRenderer()->createGeometryBuffer())
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
@@ -34,6 +39,11 @@ MXSlider::MXSlider(const String& type, const String& name)
     static FixedOrientationProperty<MXSlider> orientation("VerticalSlider", WidgetTypeName,
                                                           &MXSlider::isVertical);
     addProperty(&orientation);
+}
+
+MXSlider::~MXSlider()
+{
+    System::getSingleton().getRenderer()->destroyGeometryBuffer(*d_ticks);
 }
 
 void MXSlider::setReversedDirection(bool reversed)
@@ -152,14 +162,12 @@ MXSlider::Ticks MXSlider::ticks() const
 
 void MXSlider::populateGeometryBuffer()
 {
-    if (!hasVisibleArea(*this))
-        return;
+    const Window* thumb = partOrNull(*this, ThumbName);
+    if (!hasVisibleArea(*this) || !thumb)
+        return placeTicks({});
     GeometryBuffer& buffer = getGeometryBuffer();
     const ColourRect white = withAlpha(ColourRect(Colour(0xFFFFFFFF)), getEffectiveAlpha());
     const Rectf area(Vector2f(0, 0), getPixelSize());
-    const Window* thumb = partOrNull(*this, ThumbName);
-    if (!thumb)
-        return;
     const Sizef thumbSize = thumb->getPixelSize();
 
     const float lw = d_trackLeft->getRenderedSize().d_width;
@@ -176,7 +184,7 @@ void MXSlider::populateGeometryBuffer()
 
     const Ticks marks = ticks();
     if (marks.count == 0)
-        return;
+        return placeTicks({});
     const float thumbY =
         thumb->getUnclippedOuterRect().get().top() - getUnclippedOuterRect().get().top();
     const Sizef tick = d_tick->getRenderedSize();
@@ -193,9 +201,53 @@ void MXSlider::populateGeometryBuffer()
     const float to = std::min(std::floor((seen.right() - first.d_x) / marks.spacing),
                               static_cast<float>(marks.count - 1));
     if (!(from <= to))
+        return placeTicks({});
+    placeTicks(
+        {first, marks.spacing, static_cast<int>(from), static_cast<int>(to) + 1, white, d_tick});
+}
+
+bool MXSlider::TickPlacement::operator==(const TickPlacement& other) const
+{
+    return first == other.first && spacing == other.spacing && from == other.from &&
+           to == other.to && image == other.image &&
+           colours.d_top_left == other.colours.d_top_left &&
+           colours.d_top_right == other.colours.d_top_right &&
+           colours.d_bottom_left == other.colours.d_bottom_left &&
+           colours.d_bottom_right == other.colours.d_bottom_right;
+}
+
+void MXSlider::placeTicks(const TickPlacement& placement)
+{
+    if (placement == d_tickPlacement)
         return;
-    QuadBatch(buffer).addRow(*d_tick, first, marks.spacing, static_cast<int>(from),
-                             static_cast<int>(to) + 1, white);
+    d_tickPlacement = placement;
+    d_ticks->reset();
+    if (placement.image)
+        QuadBatch(*d_ticks).addRow(*placement.image, placement.first, placement.spacing,
+                                   placement.from, placement.to, placement.colours);
+}
+
+void MXSlider::drawSelf(const RenderingContext& ctx)
+{
+    RedrawnWhenUncovered<Slider>::drawSelf(ctx);
+    if (d_ticks->getVertexCount() == 0)
+        return;
+    // Placed and clipped as CEGUI places and clips the window's own geometry.
+    if (ctx.owner == this && ctx.surface->isRenderingWindow())
+    {
+        d_ticks->setTranslation(Vector3f(0, 0, 0));
+        d_ticks->setClippingRegion(Rectf(Vector2f(0, 0), getPixelSize()));
+    }
+    else
+    {
+        const Vector2f at = getUnclippedOuterRect().get().getPosition() - ctx.offset;
+        d_ticks->setTranslation(Vector3f(at.d_x, at.d_y, 0));
+        Rectf clip(getOuterRectClipper());
+        if (clip.getWidth() != 0.0f && clip.getHeight() != 0.0f)
+            clip.offset(Vector2f(-ctx.offset.d_x, -ctx.offset.d_y));
+        d_ticks->setClippingRegion(clip);
+    }
+    ctx.surface->addGeometryBuffer(ctx.queue, *d_ticks);
 }
 
 MXSliderThumb::MXSliderThumb(const String& type, const String& name)

@@ -56,14 +56,34 @@ public:
     float thumbLeftFor(float value) const;
     float valueAtThumbLeft(float left) const;
 
+    //! The tick marks live in a buffer of their own, made again only when what places them
+    //! changes: moving or lighting the thumb redraws the track, not every tick.
+    const GeometryBuffer& tickGeometry() const { return *d_ticks; }
+
+    ~MXSlider() override;
+
 protected:
     virtual Thumb* createThumb(const String& name) const;
     void updateThumb() override;
     float getValueFromThumb() const override;
     float getAdjustDirectionFromPoint(const Vector2f& point) const override;
     void populateGeometryBuffer() override;
+    void drawSelf(const RenderingContext& ctx) override;
 
 private:
+    //! Everything the ticks' geometry follows from.
+    struct TickPlacement
+    {
+        Vector2f first;
+        float spacing = 0.0f;
+        int from = 0, to = 0;
+        ColourRect colours;
+        const Image* image = nullptr;
+
+        bool operator==(const TickPlacement& other) const;
+    };
+    void placeTicks(const TickPlacement& placement);
+
     Event::ScopedConnection d_thumbWheel;
     //! Pixels the thumb can travel.
     float travel() const;
@@ -74,6 +94,8 @@ private:
     const Image* d_trackMiddle;
     const Image* d_trackRight;
     const Image* d_tick;
+    GeometryBuffer* d_ticks;
+    TickPlacement d_tickPlacement;
 };
 
 class MXSliderThumb : public RedrawnWhenUncovered<Thumb>

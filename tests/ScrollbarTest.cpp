@@ -190,6 +190,30 @@ TEST(Scrollbar, ThumbStatesUseTheirFramesAndColours)
     EXPECT_EQ(frameCorner(), "ButtonScrollTopLeft");
 }
 
+namespace
+{
+const moxietest::RecordingGeometryBuffer& tickBuffer(const MXSlider& slider)
+{
+    System::getSingleton().renderAllGUIContexts();
+    return static_cast<const moxietest::RecordingGeometryBuffer&>(slider.tickGeometry());
+}
+
+std::vector<moxietest::DrawnQuad> drawnTicks(const MXSlider& slider)
+{
+    return moxietest::allOf(moxietest::decode(tickBuffer(slider)), "SliderTick");
+}
+
+// The ticks' buffer sits and is cut where CEGUI puts the slider's own.
+void expectTicksPlacedWithTheSlider(MXSlider& slider)
+{
+    const auto& own =
+        static_cast<const moxietest::RecordingGeometryBuffer&>(slider.getGeometryBuffer());
+    const auto& ticks = tickBuffer(slider);
+    EXPECT_EQ(ticks.translation(), own.translation());
+    EXPECT_EQ(ticks.clippingRegion(), own.clippingRegion());
+}
+} // namespace
+
 TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
 {
     moxietest::freshSheet();
@@ -210,27 +234,47 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     auto tickLefts = [&]
     {
         std::vector<float> lefts;
-        for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+        for (const auto& quad : drawnTicks(slider))
             lefts.push_back(quad.rect.left());
         return lefts;
     };
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
-    for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+    for (const auto& quad : drawnTicks(slider))
         EXPECT_FLOAT_EQ(quad.rect.top(), 6);
     EXPECT_EQ(imageNames(drawnBy(slider))[0], "SliderTrackLeft");
+    expectTicksPlacedWithTheSlider(slider);
+
+    // Drawn again with nothing that places the ticks changed (a parent asks all its children
+    // to redraw, the thumb moves): the track is drawn again, the ticks are kept.
+    const auto& own =
+        static_cast<const moxietest::RecordingGeometryBuffer&>(slider.getGeometryBuffer());
+    const std::size_t trackDraws = own.resets(), tickDraws = tickBuffer(slider).resets();
+    slider.invalidate(true);
+    slider.setCurrentValue(0.25f);
+    slider.invalidate(true);
+    EXPECT_EQ(tickBuffer(slider).resets(), tickDraws);
+    EXPECT_EQ(own.resets(), trackDraws + 1);
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    slider.setCurrentValue(0.5f);
 
     // Partly clipped, only the ticks in view are drawn; uncovered, the rest follow.
     Window& holder = moxietest::place("DefaultWindow", 0, 0, 90, 100);
     holder.addChild(&slider); // the slider at (10, 10) shows its left 80 pixels
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53}));
+    expectTicksPlacedWithTheSlider(slider);
     holder.setWidth(cegui_absdim(400));
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    // Drawn to a texture of its own, the slider keeps its ticks on it.
+    slider.setUsingAutoRenderingSurface(true);
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    expectTicksPlacedWithTheSlider(slider);
+    slider.setUsingAutoRenderingSurface(false);
 
     // A spacing that rounds to 0, or no frequency: no ticks rather than endless ones.
     slider.setClickStep(0.001f);
     slider.setTickFrequency(1);
     EXPECT_EQ(slider.ticks().count, 0);
-    EXPECT_FALSE(moxietest::find(drawnBy(slider), "SliderTick"));
+    EXPECT_TRUE(drawnTicks(slider).empty());
     slider.setProperty("TickFrequency", "0");
     EXPECT_EQ(slider.ticks().count, 0);
 
@@ -251,7 +295,7 @@ TEST(Slider, AReversedSliderGrowsFromTheRightInPlacingClickingDraggingAndTicks)
 
     // The ticks run from the thumb's centre at 0, now the right.
     std::vector<float> tickX;
-    for (const auto& quad : moxietest::allOf(drawnBy(slider), "SliderTick"))
+    for (const auto& quad : drawnTicks(slider))
         tickX.push_back(quad.rect.left());
     EXPECT_EQ(tickX, (std::vector<float>{7, 54, 101, 148, 195}));
 

@@ -71,7 +71,12 @@ TEST(RobustnessFindings, ASliderWithSettingsThatAreNoNumbersDrawsNoTicks)
             moxietest::freshSheet();
             Window& fresh = moxietest::place("MoxieLook/Slider", 10, 10, 200, 30);
             fresh.setProperty(property, text);
-            for (const auto& quad : moxietest::drawnBy(fresh))
+            std::vector<moxietest::DrawnQuad> quads = moxietest::drawnBy(fresh);
+            const auto ticks =
+                moxietest::decode(static_cast<const moxietest::RecordingGeometryBuffer&>(
+                    static_cast<const MoxieLook::MXSlider&>(fresh).tickGeometry()));
+            quads.insert(quads.end(), ticks.begin(), ticks.end());
+            for (const auto& quad : quads)
                 EXPECT_TRUE(std::isfinite(quad.rect.left())) << property << " " << text;
         }
     (void)slider;

@@ -23,6 +23,7 @@ void RecordingGeometryBuffer::reset()
 {
     NullGeometryBuffer::reset();
     d_batches.clear();
+    ++d_resets;
 }
 
 const CEGUI::Vector2f& ScaledNullTexture::getTexelScaling() const

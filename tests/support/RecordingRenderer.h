@@ -25,10 +25,16 @@ public:
     void reset() override;
 
     const std::vector<Batch>& batches() const { return d_batches; }
+    //! Where CEGUI (or a look) placed and clipped the buffer.
+    const CEGUI::Vector3f& translation() const { return d_translation; }
+    const CEGUI::Rectf& clippingRegion() const { return d_clipRect; }
+    //! How often the buffer was emptied to be drawn again.
+    std::size_t resets() const { return d_resets; }
 
 private:
     const CEGUI::Texture* d_texture = nullptr;
     std::vector<Batch> d_batches;
+    std::size_t d_resets = 0;
 };
 
 //! A texture from a file that reports real texel scaling, so that recorded vertices carry
