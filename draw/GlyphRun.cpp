@@ -7,6 +7,7 @@
 #include <CEGUI/FontGlyph.h>
 #include <CEGUI/FontManager.h>
 #include <CEGUI/GeometryBuffer.h>
+#include <CEGUI/GlobalEventSet.h>
 #include <algorithm>
 #include <array>
 #include <bitset>
@@ -26,18 +27,12 @@ struct Glyph
 };
 
 // One font's glyphs as Font::getGlyphData gave them (rasterising their page on the way).
-// The font frees them when it lays its glyphs out again, and says so by a size change.
+// The font frees them when it lays its glyphs out again, and says so by a size change. A
+// codepoint without a glyph is asked again each time: a pixmap font may be given one later.
 class FontGlyphs
 {
 public:
-    explicit FontGlyphs(const Font& font) : d_name(font.getName())
-    {
-        d_resized = const_cast<Font&>(font).subscribeEvent(Font::EventRenderSizeChanged,
-                                                           [this](const EventArgs&) { clear(); });
-    }
-
-    FontGlyphs(const FontGlyphs&) = delete; // its handler holds `this`
-    FontGlyphs& operator=(const FontGlyphs&) = delete;
+    explicit FontGlyphs(const Font& font) : d_name(font.getName()) {}
 
     const Glyph& find(const Font& font, utf32 codepoint)
     {
@@ -47,17 +42,18 @@ public:
             entry = &d_latin[codepoint];
             if (d_known.test(codepoint))
                 return refreshed(*entry);
-            d_known.set(codepoint);
         }
         else
         {
             auto [at, added] = d_rest.try_emplace(codepoint);
             entry = &at->second;
-            if (!added)
+            if (!added && entry->glyph)
                 return refreshed(*entry);
         }
         entry->glyph = font.getGlyphData(codepoint);
         entry->image = nullptr;
+        if (codepoint < Latin && entry->glyph)
+            d_known.set(codepoint);
         return refreshed(*entry);
     }
 
@@ -68,8 +64,6 @@ public:
     }
 
     const String& name() const { return d_name; }
-    //! For a font that is alive: it keeps no handler of ours.
-    void stopListening() { d_resized->disconnect(); }
 
 private:
     static constexpr utf32 Latin = 256;
@@ -86,7 +80,6 @@ private:
     }
 
     String d_name;
-    Event::Connection d_resized;
     std::array<Glyph, Latin> d_latin;
     std::bitset<Latin> d_known;
     std::unordered_map<utf32, Glyph> d_rest;
@@ -95,13 +88,32 @@ private:
 struct Tables
 {
     std::unordered_map<const Font*, FontGlyphs> fonts;
-    Event::Connection gone, replaced;
+    Event::Connection resized, gone, replaced;
+
+    std::array<Event::Connection*, 3> connections() { return {&resized, &gone, &replaced}; }
+    bool listening() const { return resized.isValid() && resized->connected(); }
+
+    // A connection whose event is gone reports itself unconnected, so this is safe whether
+    // CEGUI went first or not.
+    ~Tables()
+    {
+        for (Event::Connection* c : connections())
+            if (c->isValid() && (*c)->connected())
+                (*c)->disconnect();
+    }
 };
 
 Tables& tables()
 {
     static Tables all;
     return all;
+}
+
+void fontResized(const EventArgs& args)
+{
+    auto& fonts = tables().fonts;
+    if (auto found = fonts.find(static_cast<const FontEventArgs&>(args).font); found != fonts.end())
+        found->second.clear();
 }
 
 void forgetFont(const EventArgs& args)
@@ -117,15 +129,9 @@ FontGlyphs& glyphsOf(const Font& font)
     Tables& all = tables();
     if (auto found = all.fonts.find(&font); found != all.fonts.end())
         return found->second;
-    if (!all.gone.isValid() || !all.gone->connected())
-    {
-        FontManager& fonts = FontManager::getSingleton();
-        all.gone = fonts.subscribeEvent(FontManager::EventResourceDestroyed, &forgetFont);
-        all.replaced = fonts.subscribeEvent(FontManager::EventResourceReplaced, &forgetFont);
-    }
+    attachGlyphTables();
     return all.fonts.try_emplace(&font, font).first->second;
 }
-
 } // namespace
 
 float drawGlyphs(GeometryBuffer& buffer, const Font& font, const String& text,
@@ -176,13 +182,25 @@ float glyphExtent(const Font& font, const String& text)
     return std::max(advanced, widest);
 }
 
+void attachGlyphTables()
+{
+    Tables& all = tables();
+    if (all.listening())
+        return;
+    // Global, so that the tables are emptied before a font's own subscribers (and the
+    // module's windows, made later) measure text with it.
+    all.resized = GlobalEventSet::getSingleton().subscribeEvent(
+        Font::EventNamespace + '/' + Font::EventRenderSizeChanged, &fontResized);
+    FontManager& fonts = FontManager::getSingleton();
+    all.gone = fonts.subscribeEvent(FontManager::EventResourceDestroyed, &forgetFont);
+    all.replaced = fonts.subscribeEvent(FontManager::EventResourceReplaced, &forgetFont);
+}
+
 void forgetGlyphTables()
 {
     Tables& all = tables();
-    for (auto& [font, glyphs] : all.fonts)
-        glyphs.stopListening();
     all.fonts.clear();
-    for (Event::Connection* c : {&all.gone, &all.replaced})
+    for (Event::Connection* c : all.connections())
         if (c->isValid() && (*c)->connected())
             (*c)->disconnect();
 }

@@ -24,6 +24,11 @@ float drawGlyphs(GeometryBuffer& buffer, const Font& font, const String& text,
 //! Font::getTextExtent, from the same glyph table.
 float glyphExtent(const Font& font, const String& text);
 
+//! Starts listening to CEGUI's fonts (a size change empties a font's table, a font destroyed
+//! or replaced drops it); done when the module's types join CEGUI, before any of its windows
+//! is made, and again on first use if need be.
+void attachGlyphTables();
+
 //! Drops every font's table and stops listening to CEGUI's fonts: for when the module's
 //! types leave CEGUI (the fonts may outlive the module, or be replaced at the same place).
 void forgetGlyphTables();

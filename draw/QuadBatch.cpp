@@ -6,6 +6,7 @@
 #include <CEGUI/GeometryBuffer.h>
 #include <CEGUI/Texture.h>
 #include <CEGUI/Vertex.h>
+#include <cassert>
 #include <typeinfo>
 #include <vector>
 
@@ -72,20 +73,24 @@ void QuadBatch::add(const Image& image, const Rectf& dest, const Rectf* clip,
                     const ColourRect& colours)
 {
     if (const BasicImage* basic = plainBasicImage(&image))
-        return add(*basic, dest, clip, colours);
+    {
+        add(*basic, dest, clip, colours);
+        return;
+    }
     flush();
     image.render(d_buffer, dest, clip, colours);
 }
 
-void QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf* clip,
+bool QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf* clip,
                     const ColourRect& colours)
 {
+    assert(shared().open == this);
     // BasicImage::render, step for step, so that every vertex comes out the same.
     Rectf dest(destArea);
     dest.offset(image.*ImageParts::ScaledOffset);
     Rectf final(clip ? dest.getIntersection(*clip) : dest);
     if (final.getWidth() == 0 || final.getHeight() == 0)
-        return;
+        return false;
 
     Texture* texture = image.*ImageParts::TextureOf;
     if (texture != d_texture)
@@ -111,30 +116,33 @@ void QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf*
     put(v[3], final.right(), final.top(), tex.right(), tex.top(), colours.d_top_right);
     put(v[4], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
     put(v[5], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
+    return true;
 }
 
 void QuadBatch::addRow(const Image& image, const Vector2f& first, float spacing, int from, int to,
                        const ColourRect& colours)
 {
+    assert(shared().open == this);
     if (from >= to)
         return;
     const BasicImage* basic = plainBasicImage(&image);
     const Sizef& size = image.getRenderedSize();
-    const Vector2f start(first.d_x + static_cast<float>(from) * spacing, first.d_y);
-    if (!basic)
+    auto placeOf = [&](int i)
+    { return Rectf(Vector2f(first.d_x + static_cast<float>(i) * spacing, first.d_y), size); };
+    // Copies keep CEGUI's rounding to whole pixels only where no copy crosses from negative
+    // to positive x (it rounds halves away from zero).
+    const float leftmost = placeOf(from).left() + image.getRenderedOffset().d_x;
+    if (!basic || !(leftmost >= 0.0f))
     {
         for (int i = from; i < to; ++i)
-            add(image,
-                Rectf(Vector2f(first.d_x + static_cast<float>(i) * spacing, first.d_y), size),
-                nullptr, colours);
+            add(image, placeOf(i), nullptr, colours);
         return;
     }
-    const std::size_t at = shared().used;
-    add(*basic, Rectf(start, size), nullptr, colours);
-    if (shared().used == at)
+    if (!add(*basic, placeOf(from), nullptr, colours))
         return; // nothing to see of it
-    // The quad's place may move when the shared vertices grow.
+    const std::size_t at = shared().used - 6;
     Vertex* copies = grow(6 * static_cast<std::size_t>(to - from - 1));
+    // Read after growing: the shared vertices may have moved.
     const Vertex* quad = shared().vertices.data() + at;
     for (int i = 1; i < to - from; ++i)
     {

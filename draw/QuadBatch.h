@@ -20,7 +20,7 @@ const BasicImage* plainBasicImage(const Image* image);
 
 //! Open while a look draws a group of images into one buffer; appends on flush and when it
 //! goes. A batch opened while another is open sends the other's quads first, so the
-//! buffer gets every quad in the order it was added.
+//! buffer gets every quad in the order it was added; only the innermost open batch adds.
 class QuadBatch
 {
 public:
@@ -31,8 +31,9 @@ public:
 
     //! What image.render(buffer, dest, clip, colours) would draw.
     void add(const Image& image, const Rectf& dest, const Rectf* clip, const ColourRect& colours);
-    //! The same for an image known to be a plain BasicImage.
-    void add(const BasicImage& image, const Rectf& dest, const Rectf* clip,
+    //! The same for an image known to be a plain BasicImage; false when nothing of it can
+    //! be seen (no quad was added).
+    bool add(const BasicImage& image, const Rectf& dest, const Rectf* clip,
              const ColourRect& colours);
 
     //! The image at its natural size at `first` + (i × `spacing`, 0) for every i in [from,

@@ -41,9 +41,9 @@ MXSlider::MXSlider(const String& type, const String& name)
     addProperty(&orientation);
 }
 
-MXSlider::~MXSlider()
+void MXSlider::GeometryRelease::operator()(GeometryBuffer* buffer) const
 {
-    System::getSingleton().getRenderer()->destroyGeometryBuffer(*d_ticks);
+    System::getSingleton().getRenderer()->destroyGeometryBuffer(*buffer);
 }
 
 void MXSlider::setReversedDirection(bool reversed)
@@ -209,8 +209,8 @@ void MXSlider::populateGeometryBuffer()
 bool MXSlider::TickPlacement::operator==(const TickPlacement& other) const
 {
     return first == other.first && spacing == other.spacing && from == other.from &&
-           to == other.to && image == other.image &&
-           colours.d_top_left == other.colours.d_top_left &&
+           to == other.to && image == other.image && imageSize == other.imageSize &&
+           imageOffset == other.imageOffset && colours.d_top_left == other.colours.d_top_left &&
            colours.d_top_right == other.colours.d_top_right &&
            colours.d_bottom_left == other.colours.d_bottom_left &&
            colours.d_bottom_right == other.colours.d_bottom_right;
@@ -232,22 +232,34 @@ void MXSlider::drawSelf(const RenderingContext& ctx)
     RedrawnWhenUncovered<Slider>::drawSelf(ctx);
     if (d_ticks->getVertexCount() == 0)
         return;
-    // Placed and clipped as CEGUI places and clips the window's own geometry.
+    placeTickGeometry(ctx);
+    ctx.surface->addGeometryBuffer(ctx.queue, *d_ticks);
+}
+
+void MXSlider::notifyScreenAreaChanged(bool recursive)
+{
+    // A moved window keeps its geometry, which CEGUI moves; the ticks' moves with it.
+    RedrawnWhenUncovered<Slider>::notifyScreenAreaChanged(recursive);
+    RenderingContext ctx;
+    getRenderingContext(ctx);
+    if (ctx.surface)
+        placeTickGeometry(ctx);
+}
+
+void MXSlider::placeTickGeometry(const RenderingContext& ctx)
+{
     if (ctx.owner == this && ctx.surface->isRenderingWindow())
     {
         d_ticks->setTranslation(Vector3f(0, 0, 0));
         d_ticks->setClippingRegion(Rectf(Vector2f(0, 0), getPixelSize()));
+        return;
     }
-    else
-    {
-        const Vector2f at = getUnclippedOuterRect().get().getPosition() - ctx.offset;
-        d_ticks->setTranslation(Vector3f(at.d_x, at.d_y, 0));
-        Rectf clip(getOuterRectClipper());
-        if (clip.getWidth() != 0.0f && clip.getHeight() != 0.0f)
-            clip.offset(Vector2f(-ctx.offset.d_x, -ctx.offset.d_y));
-        d_ticks->setClippingRegion(clip);
-    }
-    ctx.surface->addGeometryBuffer(ctx.queue, *d_ticks);
+    const Vector2f at = getUnclippedOuterRect().get().getPosition() - ctx.offset;
+    d_ticks->setTranslation(Vector3f(at.d_x, at.d_y, 0));
+    Rectf clip(getOuterRectClipper());
+    if (clip.getWidth() != 0.0f && clip.getHeight() != 0.0f)
+        clip.offset(Vector2f(-ctx.offset.d_x, -ctx.offset.d_y));
+    d_ticks->setClippingRegion(clip);
 }
 
 MXSliderThumb::MXSliderThumb(const String& type, const String& name)

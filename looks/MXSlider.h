@@ -10,6 +10,7 @@
 
 #include <CEGUI/widgets/Slider.h>
 #include <CEGUI/widgets/Thumb.h>
+#include <memory>
 
 namespace CEGUI
 {
@@ -60,7 +61,7 @@ public:
     //! changes: moving or lighting the thumb redraws the track, not every tick.
     const GeometryBuffer& tickGeometry() const { return *d_ticks; }
 
-    ~MXSlider() override;
+    void notifyScreenAreaChanged(bool recursive = true) override;
 
 protected:
     virtual Thumb* createThumb(const String& name) const;
@@ -79,10 +80,19 @@ private:
         int from = 0, to = 0;
         ColourRect colours;
         const Image* image = nullptr;
+        Sizef imageSize{0.0f, 0.0f}; //!< the image's own, which an imageset may scale
+        Vector2f imageOffset{0.0f, 0.0f};
 
         bool operator==(const TickPlacement& other) const;
     };
     void placeTicks(const TickPlacement& placement);
+    //! Where CEGUI puts and cuts the slider's own geometry, for the ticks'.
+    void placeTickGeometry(const RenderingContext& ctx);
+
+    struct GeometryRelease
+    {
+        void operator()(GeometryBuffer* buffer) const;
+    };
 
     Event::ScopedConnection d_thumbWheel;
     //! Pixels the thumb can travel.
@@ -94,7 +104,7 @@ private:
     const Image* d_trackMiddle;
     const Image* d_trackRight;
     const Image* d_tick;
-    GeometryBuffer* d_ticks;
+    std::unique_ptr<GeometryBuffer, GeometryRelease> d_ticks;
     TickPlacement d_tickPlacement;
 };
 

@@ -241,6 +241,7 @@ WindowFactory* findModuleFactory(const char* typeName)
 void addToCegui(const FactoryEntry& entry)
 {
     attachKeyboardNavigation();
+    attachGlyphTables();
     WindowFactoryManager::getSingleton().addFactory(entry.factory);
     WindowRendererManager& renderers = WindowRendererManager::getSingleton();
     if (entry.renderer && !renderers.isFactoryPresent(entry.renderer->getName()))

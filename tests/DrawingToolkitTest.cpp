@@ -1,5 +1,6 @@
 #include "draw/FormattedImage.h"
 #include "draw/GlyphRun.h"
+#include "draw/ImageParts.h"
 #include "draw/Imagery.h"
 #include "draw/NinePieceFrame.h"
 #include "draw/QuadBatch.h"
@@ -10,6 +11,7 @@
 #include <CEGUI/CentredRenderedString.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/FontManager.h>
+#include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/LeftAlignedRenderedString.h>
 #include <CEGUI/RenderedStringWordWrapper.h>
@@ -21,6 +23,7 @@
 
 using namespace CEGUI;
 using namespace CEGUI::MoxieLook;
+using moxietest::context;
 using moxietest::decode;
 using moxietest::DrawnQuad;
 using moxietest::RecordingGeometryBuffer;
@@ -135,28 +138,43 @@ TEST(TextDrawing, WrapsAndPlacesTextVertically)
 
 namespace
 {
-std::vector<Vertex> verticesOf(const RecordingGeometryBuffer& buffer)
+// Every vertex with the texture it was drawn from.
+std::vector<std::pair<const Texture*, Vertex>> verticesOf(const RecordingGeometryBuffer& buffer)
 {
-    std::vector<Vertex> all;
+    std::vector<std::pair<const Texture*, Vertex>> all;
     for (const RecordingGeometryBuffer::Batch& batch : buffer.batches())
-        all.insert(all.end(), batch.vertices.begin(), batch.vertices.end());
+        for (const Vertex& vertex : batch.vertices)
+            all.emplace_back(batch.texture, vertex);
     return all;
 }
 
-// The same vertices, bit for bit: the same arithmetic must have made them.
+// The same vertices from the same textures, bit for bit: the same arithmetic must have made
+// them.
 void expectSameVertices(const RecordingGeometryBuffer& cegui, const RecordingGeometryBuffer& ours,
                         const std::string& what)
 {
-    const std::vector<Vertex> expected = verticesOf(cegui), drawn = verticesOf(ours);
+    const auto expected = verticesOf(cegui), drawn = verticesOf(ours);
     ASSERT_EQ(drawn.size(), expected.size()) << what;
     for (std::size_t i = 0; i < drawn.size(); ++i)
     {
-        EXPECT_EQ(drawn[i].position, expected[i].position) << what << " vertex " << i;
-        EXPECT_EQ(drawn[i].tex_coords, expected[i].tex_coords) << what << " vertex " << i;
-        EXPECT_EQ(drawn[i].colour_val.getARGB(), expected[i].colour_val.getARGB())
+        const auto& [texture, vertex] = drawn[i];
+        EXPECT_EQ(texture, expected[i].first) << what << " vertex " << i;
+        EXPECT_EQ(vertex.position, expected[i].second.position) << what << " vertex " << i;
+        EXPECT_EQ(vertex.tex_coords, expected[i].second.tex_coords) << what << " vertex " << i;
+        EXPECT_EQ(vertex.colour_val.getARGB(), expected[i].second.colour_val.getARGB())
             << what << " vertex " << i;
     }
 }
+
+// A kind of image of the host's own: the batch lets it draw itself.
+struct HostImage : BasicImage
+{
+    explicit HostImage(const BasicImage& like)
+        : BasicImage(like.getName() + "/host", like.*ImageParts::TextureOf, like.*ImageParts::Area,
+                     like.getRenderedOffset(), ASM_Disabled, Sizef(640, 480))
+    {
+    }
+};
 } // namespace
 
 TEST(GlyphRun, DrawsWhatCeguisFontDrawsAndFollowsAResizedFont)
@@ -208,6 +226,46 @@ TEST(GlyphRun, DrawsWhatCeguisFontDrawsAndFollowsAResizedFont)
         font.setProperty("PointSize", size);
         compareAll(font);
     }
+}
+
+TEST(GlyphRun, AFontResizedDestroyedOrReplacedIsNeverReadStale)
+{
+    moxietest::freshSheet();
+    FontManager& fonts = FontManager::getSingleton();
+    auto sameAsCegui = [](const Font& font, const std::string& what)
+    {
+        const String text("Refitted label");
+        EXPECT_EQ(glyphExtent(font, text), font.getTextExtent(text)) << what;
+        RecordingGeometryBuffer cegui, ours;
+        font.drawText(cegui, text, Vector2f(3, 4), nullptr, ColourRect(Colour(0xFF000000)));
+        drawGlyphs(ours, font, text, Vector2f(3, 4), nullptr, ColourRect(Colour(0xFF000000)));
+        expectSameVertices(cegui, ours, what);
+    };
+    Font& probe = fonts.createFreeTypeFont("GlyphProbe", 11, true, "DejaVuSans.ttf");
+    // A host that re-fits its text when a font changes size, listening before the table was
+    // first filled: the table is emptied before it measures.
+    int refits = 0;
+    Event::ScopedConnection refit =
+        probe.subscribeEvent(Font::EventRenderSizeChanged,
+                             [&](const EventArgs&)
+                             {
+                                 ++refits;
+                                 sameAsCegui(probe, "inside the size change");
+                             });
+    sameAsCegui(probe, "first use");
+    probe.setProperty("PointSize", "15");
+    EXPECT_EQ(refits, 1);
+    sameAsCegui(probe, "after the size change");
+    refit.disconnect();
+
+    // Destroyed and made again under its name, possibly at the same address.
+    fonts.destroy("GlyphProbe");
+    sameAsCegui(fonts.createFreeTypeFont("GlyphProbe", 9, false, "DejaVuSans.ttf"), "remade");
+    // Replaced by a new font of the same name.
+    sameAsCegui(fonts.createFreeTypeFont("GlyphProbe", 13, true, "DejaVuSans.ttf", "", ASM_Disabled,
+                                         Sizef(640, 480), XREA_REPLACE),
+                "replaced");
+    fonts.destroy("GlyphProbe");
 }
 
 TEST(TextDrawing, OneLineLabelsDrawAsCeguisFormattersDo)
@@ -268,36 +326,49 @@ TEST(QuadBatch, DrawsWhatCeguisImagesDrawInTheOrderGiven)
     const Rectf cutting(13.5f, 9.0f, 40.25f, 17.0f), away(500, 500, 600, 600);
     const Rectf places[] = {Rectf(10.3f, 7.6f, 30.8f, 19.1f), Rectf(0, 0, 64, 3),
                             Rectf(12, 8, 12, 20)};
+    // Atlas images in turn with a glyph (another texture) and a host's own kind of image.
+    const Image& glyph = *context().getDefaultFont()->getGlyphData('g')->getImage();
+    const HostImage hostImage(static_cast<const BasicImage&>(lookImage("SliderTick")));
+    std::vector<const Image*> images;
+    auto all = ImageManager::getSingleton().getIterator();
+    for (int taken = 0; !all.isAtEnd() && taken < 30; ++all, ++taken)
+        images.insert(images.end(), {all.getCurrentValue().first, &glyph, &hostImage});
     RecordingGeometryBuffer cegui, ours;
     {
         QuadBatch batch(ours);
-        auto images = ImageManager::getSingleton().getIterator();
-        for (int drawn = 0; !images.isAtEnd() && drawn < 40; ++images, ++drawn)
+        for (const Image* image : images)
         {
-            const Image& image = *images.getCurrentValue().first;
             for (const Rectf& dest : places)
                 for (const Rectf* clip : {static_cast<const Rectf*>(nullptr), &cutting, &away})
                 {
-                    image.render(cegui, dest, clip, gradient);
-                    batch.add(image, dest, clip, gradient);
+                    image->render(cegui, dest, clip, gradient);
+                    batch.add(*image, dest, clip, gradient);
                 }
             // A batch opened inside another sends the outer one's quads first.
             QuadBatch inner(ours);
-            image.render(cegui, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
-            inner.add(image, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
+            image->render(cegui, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
+            inner.add(*image, places[0], nullptr, ColourRect(Colour(0xFFFFFFFF)));
         }
     }
-    EXPECT_GT(verticesOf(cegui).size(), 6u * 40);
+    EXPECT_GT(verticesOf(cegui).size(), 6u * 90);
     expectSameVertices(cegui, ours, "images");
 
-    // A row of one image, drawn once and copied along, as drawing it at each place.
-    RecordingGeometryBuffer placed, row;
+    // A row of one image, drawn once and copied along, as drawing it at each place: after a
+    // quad of another texture, and across x = 0 (CEGUI rounds halves away from zero).
     const Image& tick = lookImage("SliderTick");
-    for (int i = 2; i < 9; ++i)
-        tick.render(placed, Rectf(Vector2f(3.6f + i * 7.0f, 4.2f), tick.getRenderedSize()), nullptr,
-                    gradient);
-    QuadBatch(row).addRow(tick, Vector2f(3.6f, 4.2f), 7.0f, 2, 9, gradient);
-    expectSameVertices(placed, row, "row");
+    for (const float x : {3.6f, -20.5f})
+    {
+        RecordingGeometryBuffer placed, row;
+        glyph.render(placed, places[0], nullptr, gradient);
+        for (int i = 2; i < 9; ++i)
+            tick.render(placed, Rectf(Vector2f(x + i * 7.0f, 4.2f), tick.getRenderedSize()),
+                        nullptr, gradient);
+        QuadBatch batch(row);
+        batch.add(glyph, places[0], nullptr, gradient);
+        batch.addRow(tick, Vector2f(x, 4.2f), 7.0f, 2, 9, gradient);
+        batch.flush();
+        expectSameVertices(placed, row, "row from " + std::to_string(x));
+    }
 }
 
 TEST(TextDrawing, CountsWrappedLinesAsCeguisWrapperDoes)

@@ -264,6 +264,17 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
     expectTicksPlacedWithTheSlider(slider);
     holder.setWidth(cegui_absdim(400));
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    // Moved, on its own or with its parent, the ticks go along without being drawn again.
+    slider.setPosition(UVector2(cegui_absdim(30), cegui_absdim(20)));
+    expectTicksPlacedWithTheSlider(slider);
+    holder.setPosition(UVector2(cegui_absdim(15), cegui_absdim(5)));
+    expectTicksPlacedWithTheSlider(slider);
+    EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));
+    // Faded, they are drawn again in the new alpha.
+    slider.setAlpha(0.5f);
+    for (const auto& quad : drawnTicks(slider))
+        EXPECT_EQ(moxietest::argb(quad.colours.d_top_left), 0x7FFFFFFFu);
+    slider.setAlpha(1.0f);
     // Drawn to a texture of its own, the slider keeps its ticks on it.
     slider.setUsingAutoRenderingSurface(true);
     EXPECT_EQ(tickLefts(), (std::vector<float>{6, 53, 100, 147, 194}));

@@ -74,12 +74,16 @@ void FrameWindowEx::initialiseComponents()
 
 Titlebar* FrameWindowEx::titlebarPart() const
 {
-    return d_titlebarPart && Element::isChild(d_titlebarPart) ? d_titlebarPart : nullptr;
+    if (!d_titlebarPart || !Element::isChild(d_titlebarPart))
+        d_titlebarPart = isChild(TitlebarName) ? getTitlebar() : nullptr;
+    return d_titlebarPart;
 }
 
 PushButton* FrameWindowEx::closeButtonPart() const
 {
-    return d_closeButtonPart && Element::isChild(d_closeButtonPart) ? d_closeButtonPart : nullptr;
+    if (!d_closeButtonPart || !Element::isChild(d_closeButtonPart))
+        d_closeButtonPart = isChild(CloseButtonName) ? getCloseButton() : nullptr;
+    return d_closeButtonPart;
 }
 
 bool FrameWindowEx::isPart(const Window* window) const

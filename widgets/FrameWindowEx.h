@@ -88,10 +88,9 @@ protected:
     PushButton* d_minimizeButton = nullptr;
     PushButton* d_titleizeButton = nullptr;
 
-protected:
-    //! The title bar and close button this window made, while they are its children; null
-    //! before they are made. Asked by address: CEGUI's lookup by name is costly here, where
-    //! it also searches the content pane.
+    //! The title bar and close button: by address while the ones last found are still
+    //! children, by name otherwise (null before they are made). CEGUI's lookup by name is
+    //! costly here, where it also searches the content pane.
     Titlebar* titlebarPart() const;
     PushButton* closeButtonPart() const;
 
@@ -103,8 +102,8 @@ private:
     bool titlebarResizeHandler(const EventArgs& e);
     bool rollingUpContentHandler(const EventArgs& e);
 
-    Titlebar* d_titlebarPart = nullptr;
-    PushButton* d_closeButtonPart = nullptr;
+    mutable Titlebar* d_titlebarPart = nullptr;
+    mutable PushButton* d_closeButtonPart = nullptr;
 };
 
 } // namespace MoxieLook
