@@ -7,6 +7,7 @@
 #include <CEGUI/Texture.h>
 #include <CEGUI/Vertex.h>
 #include <cassert>
+#include <cmath>
 #include <typeinfo>
 #include <vector>
 
@@ -39,6 +40,18 @@ Vertex* grow(std::size_t count)
     Vertex* at = all.vertices.data() + all.used;
     all.used += count;
     return at;
+}
+
+// Whether CEGUI's rounding to whole pixels is defined for the rectangle: it converts to int.
+// CEGUI would draw garbage for anything else (a size that is no number, a place billions of
+// pixels away); nothing of it could be seen.
+bool roundable(const Rectf& rect)
+{
+    constexpr float Limit = 2147483520.0f; // the largest float below 2^31
+    for (float v : {rect.d_min.d_x, rect.d_min.d_y, rect.d_max.d_x, rect.d_max.d_y})
+        if (!(std::fabs(v) <= Limit))
+            return false;
+    return true;
 }
 
 void put(Vertex& vertex, float x, float y, float u, float v, const Colour& colour)
@@ -89,7 +102,7 @@ bool QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf*
     Rectf dest(destArea);
     dest.offset(image.*ImageParts::ScaledOffset);
     Rectf final(clip ? dest.getIntersection(*clip) : dest);
-    if (final.getWidth() == 0 || final.getHeight() == 0)
+    if (final.getWidth() == 0 || final.getHeight() == 0 || !roundable(final))
         return false;
 
     Texture* texture = image.*ImageParts::TextureOf;
