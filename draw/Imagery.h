@@ -8,6 +8,11 @@
 #include <CEGUI/UDim.h>
 #include <CEGUI/Vector.h>
 
+//! The end of a colour-rectangle property's help text: the values it takes. A literal, so
+//! that it joins the text before it where the property is defined.
+#define MOXIE_COLOURS_VALUE_HELP                                                                   \
+    " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\"."
+
 namespace CEGUI
 {
 class Window;

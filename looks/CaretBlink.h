@@ -13,8 +13,10 @@ namespace MoxieLook
 {
 struct CaretBlink
 {
+    static constexpr float DefaultPeriod = 0.53f; //!< CEGUI's edit boxes blink so
+
     bool enabled = true;
-    float period = 0.53f; //!< seconds shown, then hidden
+    float period = DefaultPeriod; //!< seconds shown, then hidden
     float elapsed = 0.0f;
     bool shown = true;
 

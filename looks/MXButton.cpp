@@ -215,8 +215,7 @@ MXImageButton::MXImageButton(const String& type, const String& name) : MXButton(
 {
     setStandardImageryEnabled(false);
     const String propertyOrigin(WidgetTypeName);
-    const String colourHelp =
-        " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    const String colourHelp = MOXIE_COLOURS_VALUE_HELP;
     CEGUI_DEFINE_PROPERTY(MXImageButton, ColourRect, "NormalImageColour",
                           "Property to get/set the image's colours at rest." + colourHelp,
                           &MXImageButton::setNormalImageColour,
@@ -315,8 +314,7 @@ MXIconButton::MXIconButton(const String& type, const String& name) : MXButton(ty
                           "image name such as \"MoxieLook/IconStar\".",
                           &MXIconButton::setIconImage, &MXIconButton::getIconImage, nullptr);
     CEGUI_DEFINE_PROPERTY(MXIconButton, ColourRect, "IconColours",
-                          "Property to get/set the icon's colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the icon's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXIconButton::setIconColours, &MXIconButton::getIconColours,
                           ColourRect(Colour(0xFFFFFFFF)));
 }

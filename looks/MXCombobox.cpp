@@ -31,8 +31,7 @@ MXCombobox::MXCombobox(const String& type, const String& name)
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
     // The stock skins' names for the edit area's colours and the button's pictures.
-    static const char* const colourHelp =
-        " Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static const char* const colourHelp = MOXIE_COLOURS_VALUE_HELP;
     static const char* const imageHelp = " Value is an image name such as \"MoxieLook/Name\".";
     static PartLinkProperty links[] = {
         {"NormalEditTextColour",

@@ -22,7 +22,7 @@ public:
     static constexpr char ImagesetName[] = "MoxieLook";
     static constexpr char MouseCursorImageName[] = "MouseTextBar";
     //! Seconds the caret stays shown, then hidden.
-    static constexpr float CaretBlinkTime = 0.53f;
+    static constexpr float CaretBlinkTime = CaretBlink::DefaultPeriod;
 
     MXEditbox(const String& type, const String& name);
 

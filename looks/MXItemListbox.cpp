@@ -128,21 +128,19 @@ MXListboxItem::MXListboxItem(const String& type, const String& name)
     setMouseInputPropagationEnabled(true);
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "TextColour",
-                          "Property to get/set the text colours. Value is \"aarrggbb\" or "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the text colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXListboxItem::setTextColour, &MXListboxItem::getTextColour,
                           ColourRect(opaque(TextColour)));
-    CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectedTextColour",
-                          "Property to get/set the selected text's colours. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXListboxItem::setSelectedTextColour,
-                          &MXListboxItem::getSelectedTextColour,
-                          ColourRect(opaque(SelectedTextColour)));
-    CEGUI_DEFINE_PROPERTY(MXListboxItem, ColourRect, "SelectionColour",
-                          "Property to get/set the tint of the selection brush. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXListboxItem::setSelectionColour, &MXListboxItem::getSelectionColour,
-                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(
+        MXListboxItem, ColourRect, "SelectedTextColour",
+        "Property to get/set the selected text's colours." MOXIE_COLOURS_VALUE_HELP,
+        &MXListboxItem::setSelectedTextColour, &MXListboxItem::getSelectedTextColour,
+        ColourRect(opaque(SelectedTextColour)));
+    CEGUI_DEFINE_PROPERTY(
+        MXListboxItem, ColourRect, "SelectionColour",
+        "Property to get/set the tint of the selection brush." MOXIE_COLOURS_VALUE_HELP,
+        &MXListboxItem::setSelectionColour, &MXListboxItem::getSelectionColour,
+        ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(MXListboxItem, Image*, "SelectionBrush",
                           "Property to get/set the image under a selected item. Value is an "
                           "image name such as \"MoxieLook/ListboxSelectionBrush\".",

@@ -49,8 +49,7 @@ void addMenuItemTintProperties(Owner& owner)
 {
     static const char* const origin = "MoxieLook/MenuItemTints";
     using Tint = TplWindowProperty<Owner, ColourRect>;
-    static const char* const help = " Value is \"aarrggbb\" or "
-                                    "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static const char* const help = MOXIE_COLOURS_VALUE_HELP;
     static Tint hover("HoverColour",
                       String("Property to get/set the band's colours under the "
                              "pointer.") +
@@ -142,8 +141,7 @@ void addMenuListStyleProperties(Owner& owner)
 {
     static TplWindowProperty<Owner, ColourRect> background(
         "BackgroundColours",
-        "Property to get/set the colours of the list's imagery. Value is \"aarrggbb\" or "
-        "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+        "Property to get/set the colours of the list's imagery." MOXIE_COLOURS_VALUE_HELP,
         "MoxieLook/MenuListStyle", &Owner::setBackgroundColours, &Owner::getBackgroundColours,
         ColourRect(Colour(0xFFFFFFFF)));
     static TplWindowProperty<Owner, uint> border(

@@ -28,7 +28,7 @@ public:
     static constexpr char VertScrollbarType[] = "MoxieLook/VerticalScrollbar";
     static constexpr char HorzScrollbarType[] = "MoxieLook/HorizontalScrollbar";
     static constexpr float ScrollbarThickness = 16.0f;
-    static constexpr float CaretBlinkTime = 0.53f;
+    static constexpr float CaretBlinkTime = CaretBlink::DefaultPeriod;
 
     MXMultiLineEditBox(const String& type, const String& name);
 

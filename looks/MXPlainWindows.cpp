@@ -45,16 +45,16 @@ MXLabel::MXLabel(const String& type, const String& name)
     setSize(USize(cegui_absdim(128), cegui_absdim(32)));
     StaticFrameImages::setCursorOf(*this);
     const String propertyOrigin(WidgetTypeName);
-    CEGUI_DEFINE_PROPERTY(MXLabel, ColourRect, "NormalTextColour",
-                          "Property to get/set the text colours while enabled. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXLabel::setNormalTextColour, &MXLabel::getNormalTextColour,
-                          ColourRect(DefaultNormalTextColour));
-    CEGUI_DEFINE_PROPERTY(MXLabel, ColourRect, "DisabledTextColour",
-                          "Property to get/set the text colours while disabled. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXLabel::setDisabledTextColour, &MXLabel::getDisabledTextColour,
-                          ColourRect(DefaultDisabledTextColour));
+    CEGUI_DEFINE_PROPERTY(
+        MXLabel, ColourRect, "NormalTextColour",
+        "Property to get/set the text colours while enabled." MOXIE_COLOURS_VALUE_HELP,
+        &MXLabel::setNormalTextColour, &MXLabel::getNormalTextColour,
+        ColourRect(DefaultNormalTextColour));
+    CEGUI_DEFINE_PROPERTY(
+        MXLabel, ColourRect, "DisabledTextColour",
+        "Property to get/set the text colours while disabled." MOXIE_COLOURS_VALUE_HELP,
+        &MXLabel::setDisabledTextColour, &MXLabel::getDisabledTextColour,
+        ColourRect(DefaultDisabledTextColour));
     CEGUI_DEFINE_PROPERTY(MXLabel, String, "HorzFormatting",
                           "Property to get/set the horizontal text formatting: \"LeftAligned\", "
                           "\"RightAligned\", \"CentreAligned\", \"Justified\", "
@@ -124,13 +124,11 @@ MXFramedWindow::MXFramedWindow(const String& type, const String& name)
                           &MXFramedWindow::setBackgroundEnabled,
                           &MXFramedWindow::isBackgroundEnabled, true);
     CEGUI_DEFINE_PROPERTY(MXFramedWindow, ColourRect, "FrameColours",
-                          "Property to get/set the frame's colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the frame's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXFramedWindow::setFrameColours, &MXFramedWindow::getFrameColours,
                           ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(MXFramedWindow, ColourRect, "BackgroundColours",
-                          "Property to get/set the background's colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the background's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXFramedWindow::setBackgroundColours,
                           &MXFramedWindow::getBackgroundColours, ColourRect(Colour(0xFFFFFFFF)));
 }
@@ -270,19 +268,17 @@ MXGroupBox::MXGroupBox(const String& type, const String& name) : MXFramedWindow(
     setBackgroundEnabled(false);
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXGroupBox, ColourRect, "NormalTextColour",
-                          "Property to get/set the caption's colours. Value is \"aarrggbb\" or "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the caption's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXGroupBox::setNormalTextColour, &MXGroupBox::getNormalTextColour,
                           ColourRect(DefaultCaptionColour));
-    CEGUI_DEFINE_PROPERTY(MXGroupBox, ColourRect, "DisabledTextColour",
-                          "Property to get/set the caption's colours while disabled. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXGroupBox::setDisabledTextColour, &MXGroupBox::getDisabledTextColour,
-                          ColourRect(MXLabel::DefaultDisabledTextColour));
+    CEGUI_DEFINE_PROPERTY(
+        MXGroupBox, ColourRect, "DisabledTextColour",
+        "Property to get/set the caption's colours while disabled." MOXIE_COLOURS_VALUE_HELP,
+        &MXGroupBox::setDisabledTextColour, &MXGroupBox::getDisabledTextColour,
+        ColourRect(MXLabel::DefaultDisabledTextColour));
     // The stock skins define both names; one backdrop serves them.
-    static const String backdropHelp =
-        "Property to get/set the colours of a backdrop behind the caption; none until set. "
-        "Value is \"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".";
+    static const String backdropHelp = "Property to get/set the colours of a backdrop behind the "
+                                       "caption; none until set." MOXIE_COLOURS_VALUE_HELP;
     static TplWindowProperty<MXGroupBox, ColourRect> backgroundText(
         "BackgroundTextColours", backdropHelp, WidgetTypeName, &MXGroupBox::setCaptionBackdrop,
         &MXGroupBox::getCaptionBackdrop, ColourRect(Colour(0x00000000)));

@@ -23,15 +23,14 @@ MXProgressBar::MXProgressBar(const String& type, const String& name)
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXProgressBar, ColourRect, "EnabledColour",
-                          "Property to get/set the fill's colours. Value is \"aarrggbb\" or "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the fill's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXProgressBar::setEnabledColour, &MXProgressBar::getEnabledColour,
                           ColourRect(Colour(0xFFFFFFFF)));
-    CEGUI_DEFINE_PROPERTY(MXProgressBar, ColourRect, "DisabledColour",
-                          "Property to get/set the fill's colours while disabled. Value is "
-                          "\"aarrggbb\" or \"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &MXProgressBar::setDisabledColour, &MXProgressBar::getDisabledColour,
-                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(
+        MXProgressBar, ColourRect, "DisabledColour",
+        "Property to get/set the fill's colours while disabled." MOXIE_COLOURS_VALUE_HELP,
+        &MXProgressBar::setDisabledColour, &MXProgressBar::getDisabledColour,
+        ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(MXProgressBar, bool, "VerticalProgress",
                           "Property to get/set whether the bar fills upwards. Value is either "
                           "\"True\" or \"False\".",

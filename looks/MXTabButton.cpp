@@ -59,32 +59,25 @@ MXTabButton::MXTabButton(const String& type, const String& name)
 
     const String propertyOrigin(WidgetTypeName);
     MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "NormalTextColour",
-                                 "Property to get/set the label colour of a tab at rest. Value is "
-                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+                                 "Property to get/set the label colour of a tab at rest.",
                                  &MXTabButton::setNormalTextColour,
                                  &MXTabButton::getNormalTextColour, opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(
         MXTabButton, "PushedTextColour",
         "Property to get/set the label colour of a selected, pressed or hovered "
-        "tab. "
-        "Value is \"aarrggbb\".",
+        "tab.",
         &MXTabButton::setPushedTextColour, &MXTabButton::getPushedTextColour,
         opaque(EnabledTextLabelColour));
-    MOXIE_DEFINE_COLOUR_PROPERTY(
-        MXTabButton, "HoverTextColour",
-        "Property to get/set the label's colour under the pointer. Value is "
-        "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-        &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
-        opaque(EnabledTextLabelColour));
-    MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "SelectedTextColour",
-                                 "Property to get/set the selected tab's label colour. Value is "
-                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-                                 &MXTabButton::setSelectedTextColour,
-                                 &MXTabButton::getSelectedTextColour,
+    MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "HoverTextColour",
+                                 "Property to get/set the label's colour under the pointer.",
+                                 &MXTabButton::setHoverTextColour, &MXTabButton::getHoverTextColour,
                                  opaque(EnabledTextLabelColour));
+    MOXIE_DEFINE_COLOUR_PROPERTY(
+        MXTabButton, "SelectedTextColour", "Property to get/set the selected tab's label colour.",
+        &MXTabButton::setSelectedTextColour, &MXTabButton::getSelectedTextColour,
+        opaque(EnabledTextLabelColour));
     MOXIE_DEFINE_COLOUR_PROPERTY(MXTabButton, "DisabledTextColour",
-                                 "Property to get/set the label colour of a disabled tab. Value is "
-                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
+                                 "Property to get/set the label colour of a disabled tab.",
                                  &MXTabButton::setDisabledTextColour,
                                  &MXTabButton::getDisabledTextColour,
                                  opaque(DisabledTextLabelColour));

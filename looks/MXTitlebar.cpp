@@ -23,8 +23,7 @@ MXTitlebar::MXTitlebar(const String& type, const String& name)
     setMouseCursor(&lookImage(MouseCursorImageName));
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXTitlebar, ColourRect, "CaptionColour",
-                          "Property to get/set the caption's colours. Value is \"aarrggbb\" or "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the caption's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXTitlebar::setCaptionColour, &MXTitlebar::getCaptionColour,
                           ColourRect(opaque(ActiveTextColour)));
 }

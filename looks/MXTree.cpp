@@ -60,8 +60,7 @@ MXTree::MXTree(const String& type, const String& name)
                        "StaticFrameListBottom"});
     const String propertyOrigin(WidgetTypeName);
     CEGUI_DEFINE_PROPERTY(MXTree, ColourRect, "FrameColours",
-                          "Property to get/set the frame's colours. Value is \"aarrggbb\" or "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the frame's colours." MOXIE_COLOURS_VALUE_HELP,
                           &MXTree::setFrameColours, &MXTree::getFrameColours,
                           ColourRect(Colour(0xFFFFFFFF)));
 }

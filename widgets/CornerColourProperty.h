@@ -33,6 +33,8 @@ public:
 #define MOXIE_DEFINE_COLOUR_PROPERTY(class_type, name, help, setter, getter, default_value)        \
     {                                                                                              \
         static ::CEGUI::MoxieLook::CornerColourProperty<class_type> sProperty(                     \
-            name, help, propertyOrigin, setter, getter, default_value);                            \
+            name,                                                                                  \
+            help " Value is \"aarrggbb\" (or four corners, of which the top-left is taken).",      \
+            propertyOrigin, setter, getter, default_value);                                        \
         this->addProperty(&sProperty);                                                             \
     }

@@ -34,27 +34,21 @@ void PushButtonEx::addPushButtonExProperties()
                           "moves right. Value is a float.",
                           &PushButtonEx::setTextXOffset, &PushButtonEx::getTextXOffset, 0.0f);
 
+    MOXIE_DEFINE_COLOUR_PROPERTY(PushButtonEx, "NormalTextColour",
+                                 "Property to get/set the text colour in the normal state.",
+                                 &PushButtonEx::setNormalTextColour,
+                                 &PushButtonEx::getNormalTextColour, Colour(0xFFFFFFFF));
     MOXIE_DEFINE_COLOUR_PROPERTY(
-        PushButtonEx, "NormalTextColour",
-        "Property to get/set the text colour in the normal state. Value is "
-        "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-        &PushButtonEx::setNormalTextColour, &PushButtonEx::getNormalTextColour, Colour(0xFFFFFFFF));
-    MOXIE_DEFINE_COLOUR_PROPERTY(PushButtonEx, "HoverTextColour",
-                                 "Property to get/set the text colour in the hover state. Value is "
-                                 "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-                                 &PushButtonEx::setHoverTextColour,
-                                 &PushButtonEx::getHoverTextColour, Colour(0xFFFFFFFF));
-    MOXIE_DEFINE_COLOUR_PROPERTY(
-        PushButtonEx, "PushedTextColour",
-        "Property to get/set the text colour in the pushed state. Value is "
-        "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-        &PushButtonEx::setPushedTextColour, &PushButtonEx::getPushedTextColour, Colour(0xFFFFFFFF));
-    MOXIE_DEFINE_COLOUR_PROPERTY(
-        PushButtonEx, "DisabledTextColour",
-        "Property to get/set the text colour in the disabled state. Value is "
-        "\"aarrggbb\" (or four corners, of which the top-left is taken).",
-        &PushButtonEx::setDisabledTextColour, &PushButtonEx::getDisabledTextColour,
-        Colour(0xFF7F7F7F));
+        PushButtonEx, "HoverTextColour", "Property to get/set the text colour in the hover state.",
+        &PushButtonEx::setHoverTextColour, &PushButtonEx::getHoverTextColour, Colour(0xFFFFFFFF));
+    MOXIE_DEFINE_COLOUR_PROPERTY(PushButtonEx, "PushedTextColour",
+                                 "Property to get/set the text colour in the pushed state.",
+                                 &PushButtonEx::setPushedTextColour,
+                                 &PushButtonEx::getPushedTextColour, Colour(0xFFFFFFFF));
+    MOXIE_DEFINE_COLOUR_PROPERTY(PushButtonEx, "DisabledTextColour",
+                                 "Property to get/set the text colour in the disabled state.",
+                                 &PushButtonEx::setDisabledTextColour,
+                                 &PushButtonEx::getDisabledTextColour, Colour(0xFF7F7F7F));
 
     CEGUI_DEFINE_PROPERTY(PushButtonEx, Image*, "NormalImage",
                           "Property to get/set the custom image of the normal state, stretched "

@@ -22,13 +22,11 @@ Static::Static(const String& type, const String& name) : RedrawnWhenUncovered<Wi
                           "\"True\" or \"False\".",
                           &Static::setBackgroundEnabled, &Static::isBackgroundEnabled, true);
     CEGUI_DEFINE_PROPERTY(Static, ColourRect, "FrameColours",
-                          "Property to get/set the frame colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the frame colours." MOXIE_COLOURS_VALUE_HELP,
                           &Static::setFrameColours, &Static::getFrameColours,
                           ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(Static, ColourRect, "BackgroundColours",
-                          "Property to get/set the background colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the background colours." MOXIE_COLOURS_VALUE_HELP,
                           &Static::setBackgroundColours, &Static::getBackgroundColours,
                           ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(Static, Image*, "BackgroundImage",

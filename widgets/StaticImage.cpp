@@ -24,11 +24,11 @@ StaticImage::StaticImage(const String& type, const String& name) : Static(type, 
                           "Property to get/set the image shown. Value is an image name such as "
                           "\"MoxieLook/IconStar\".",
                           &StaticImage::setImage, &StaticImage::getImage, nullptr);
-    CEGUI_DEFINE_PROPERTY(StaticImage, ColourRect, "ImageColours",
-                          "Property to get/set the colours the image is drawn in. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
-                          &StaticImage::setImageColours, &StaticImage::getImageColours,
-                          ColourRect(Colour(0xFFFFFFFF)));
+    CEGUI_DEFINE_PROPERTY(
+        StaticImage, ColourRect, "ImageColours",
+        "Property to get/set the colours the image is drawn in." MOXIE_COLOURS_VALUE_HELP,
+        &StaticImage::setImageColours, &StaticImage::getImageColours,
+        ColourRect(Colour(0xFFFFFFFF)));
     CEGUI_DEFINE_PROPERTY(StaticImage, String, "HorzFormatting",
                           "Property to get/set the horizontal formatting of the image. Value is "
                           "one of LeftAligned, RightAligned, HorzStretched, HorzCentred, "

@@ -10,8 +10,7 @@ StaticText::StaticText(const String& type, const String& name) : Static(type, na
 {
     const String propertyOrigin("MoxieLook/StaticText");
     CEGUI_DEFINE_PROPERTY(StaticText, ColourRect, "TextColours",
-                          "Property to get/set the text colours. Value is "
-                          "\"tl:aarrggbb tr:aarrggbb bl:aarrggbb br:aarrggbb\".",
+                          "Property to get/set the text colours." MOXIE_COLOURS_VALUE_HELP,
                           &StaticText::setTextColours, &StaticText::getTextColours,
                           ColourRect(Colour(0xFF000000)));
     CEGUI_DEFINE_PROPERTY(StaticText, String, "HorzFormatting",
