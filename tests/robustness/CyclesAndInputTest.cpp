@@ -8,6 +8,7 @@
 #include <CEGUI/GeometryBuffer.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/PushButton.h>
 #include <gtest/gtest.h>
 #include <random>
 #include <stdexcept>
@@ -217,4 +218,14 @@ TEST(Robustness, RandomInputOverEveryTypeBreaksNothing)
     RecordProperty("exceptions", exceptions);
     context().injectMouseButtonUp(LeftButton);
     moxietest::renderFrame();
+
+    // Afterwards everything goes away cleanly, and a new button draws and takes a click.
+    moxietest::freshSheet();
+    Window& button = moxietest::place("MoxieLook/Button", 10, 10, 80, 30);
+    bool clicked = false;
+    button.subscribeEvent(PushButton::EventClicked, [&] { clicked = true; });
+    moxietest::clickOn(button);
+    EXPECT_TRUE(clicked);
+    moxietest::renderFrame();
+    EXPECT_GT(button.getGeometryBuffer().getVertexCount(), 0u);
 }

@@ -63,8 +63,8 @@ TEST(Robustness, EveryPropertyOfEveryTypeTakesHostileTexts)
     {
         for (const std::string& text : moxietest::hostileTexts())
         {
-            SCOPED_TRACE(std::string(window.getType().c_str()) + " " + property.c_str() +
-                         " = \"" + text.substr(0, 40) + "\"");
+            SCOPED_TRACE(std::string(window.getType().c_str()) + " " + property.c_str() + " = \"" +
+                         text.substr(0, 40) + "\"");
             refused(property, [&] { window.setProperty(property, String(text)); });
             refused(property, [&] { (void)window.getProperty(property); });
             moxietest::renderFrame();
