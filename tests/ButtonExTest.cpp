@@ -45,7 +45,7 @@ protected:
     {
         moxietest::freshSheet();
         sounds().clear();
-        button = static_cast<ButtonEx*>(&moxietest::place("MoxieLook/ButtonEx", 10, 10, 100, 30));
+        button = &moxietest::placeAs<ButtonEx>("MoxieLook/ButtonEx", 10, 10, 100, 30);
         button->setText("Go");
     }
 
@@ -238,10 +238,8 @@ TEST_F(ButtonExTest, SoundsNeedAVisibleWindowAndARegisteredHook)
 
 TEST_F(ButtonExTest, ExtraImagesSitOnAStaticImageAndFollowItsSize)
 {
-    auto& plain =
-        static_cast<StaticImage&>(moxietest::place("MoxieLook/StaticImage", 10, 100, 64, 48));
-    auto& image =
-        static_cast<StaticImageEx&>(moxietest::place("MoxieLook/StaticImageEx", 100, 50, 64, 48));
+    auto& plain = moxietest::placeAs<StaticImage>("MoxieLook/StaticImage", 10, 100, 64, 48);
+    auto& image = moxietest::placeAs<StaticImageEx>("MoxieLook/StaticImageEx", 100, 50, 64, 48);
     for (Window* w : {static_cast<Window*>(&plain), static_cast<Window*>(&image)})
         w->setProperty("Image", "MoxieLook/IconFolder");
     EXPECT_EQ(imageNames(drawnBy(image)), imageNames(drawnBy(plain)));
@@ -302,7 +300,7 @@ TEST_F(ButtonExTest, InnerRectanglesAreLocalAndExtraImagesStayPutWhenClipped)
 {
     // A parent at (100, 50) showing only the left 40 pixels of the button.
     Window& parent = moxietest::place("DefaultWindow", 100, 50, 40, 100);
-    auto& clipped = static_cast<ButtonEx&>(moxietest::place("MoxieLook/ButtonEx", 0, 0, 100, 30));
+    auto& clipped = moxietest::placeAs<ButtonEx>("MoxieLook/ButtonEx", 0, 0, 100, 30);
     parent.addChild(&clipped);
     clipped.AddImage("MoxieLook", "BadgeRed", 0, 0, 1.0f, MultiImage::Left,
                      ColourRect(Colour(0xFFFFFFFF)));
@@ -321,8 +319,7 @@ TEST_F(ButtonExTest, InnerRectanglesAreLocalAndExtraImagesStayPutWhenClipped)
     clipped.setSize(USize(cegui_absdim(100), cegui_absdim(30)));
     EXPECT_EQ(clipped.GetImageRect(1), Rectf(88, 10, 98, 20));
 
-    auto& image =
-        static_cast<StaticImageEx&>(moxietest::place("MoxieLook/StaticImageEx", 0, 0, 80, 40));
+    auto& image = moxietest::placeAs<StaticImageEx>("MoxieLook/StaticImageEx", 0, 0, 80, 40);
     parent.addChild(&image);
     image.setProperty("FrameEnabled", "True");
     EXPECT_EQ(image.GetLocalUnclippedInnerRect(), Rectf(2, 2, 78, 38));

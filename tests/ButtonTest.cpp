@@ -23,7 +23,7 @@ protected:
     void SetUp() override
     {
         moxietest::freshSheet();
-        button = static_cast<MXButton*>(&moxietest::place("MoxieLook/Button", 10, 10, W, H));
+        button = &moxietest::placeAs<MXButton>("MoxieLook/Button", 10, 10, W, H);
         button->setText("Go");
     }
 

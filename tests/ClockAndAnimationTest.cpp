@@ -2,6 +2,7 @@
 #include "looks/MXStatics.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/SheetTest.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/GUIContext.h>
@@ -45,16 +46,12 @@ MXClock& clockIn(const char* locale)
     const std::string previous = std::setlocale(LC_TIME, nullptr);
     if (!std::setlocale(LC_TIME, locale))
         ADD_FAILURE() << "locale " << locale << " is not installed (locales-all)";
-    auto& clock = static_cast<MXClock&>(moxietest::place("MoxieLook/Clock", 10, 10, 200, 26));
+    auto& clock = moxietest::placeAs<MXClock>("MoxieLook/Clock", 10, 10, 200, 26);
     std::setlocale(LC_TIME, previous.c_str());
     return clock;
 }
 
-class ClockAndAnimationTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { moxietest::freshSheet(); }
-};
+using ClockAndAnimationTest = moxietest::SheetTest;
 } // namespace
 
 TEST_F(ClockAndAnimationTest, FramesAdvanceOnePerPeriodAndAtMostOnePerPulse)

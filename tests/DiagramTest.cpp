@@ -1,6 +1,7 @@
 #include "looks/MXDiagram.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/Thrown.h"
 #include "widgets/StaticLayout.h"
 
 #include <CEGUI/Exceptions.h>
@@ -62,27 +63,15 @@ TEST_F(DiagramTest, ValuesRangesStackingAndTheirErrors)
     diagram->setValue("line", 10, 1);
     EXPECT_FLOAT_EQ(diagram->getValue("line", 3.333f), 0.34f); // rounded up to the hundredth
 
-    try
-    {
-        diagram->addMeasurement("a", "again", Colour());
-        FAIL();
-    }
-    catch (const AlreadyExistsException& e)
-    {
-        EXPECT_NE(e.getMessage().find("Exception : measurements names must be unique."),
-                  String::npos);
-    }
+    EXPECT_NE(moxietest::thrownMessage<AlreadyExistsException>(
+                  [&] { diagram->addMeasurement("a", "again", Colour()); })
+                  .find("Exception : measurements names must be unique."),
+              std::string::npos);
     EXPECT_EQ(diagram->getMeasurementCount(), 2u);
 
-    try
-    {
-        diagram->setValue("nobody", 40, 1);
-        FAIL();
-    }
-    catch (const Diagram::UnknownMeasurement& e)
-    {
-        EXPECT_STREQ(e.what(), "Exception : trying to set a value in an unknown measurement.");
-    }
+    EXPECT_EQ(moxietest::thrownMessage<Diagram::UnknownMeasurement>(
+                  [&] { diagram->setValue("nobody", 40, 1); }),
+              "Exception : trying to set a value in an unknown measurement.");
     EXPECT_EQ(diagram->getXMax(), 40); // widened before the name was checked
     EXPECT_THROW(diagram->getValue("nobody", 1), Diagram::UnknownMeasurement);
     EXPECT_THROW(diagram->setValue("a", std::nanf(""), 1), InvalidRequestException);

@@ -26,7 +26,7 @@ protected:
     void SetUp() override
     {
         moxietest::freshSheet();
-        box = static_cast<MXEditbox*>(&moxietest::place("MoxieLook/Editbox", 10, 10, 200, 26));
+        box = &moxietest::placeAs<MXEditbox>("MoxieLook/Editbox", 10, 10, 200, 26);
     }
 
     //! Screen x of the boundary before character `index` of the box's text.
@@ -233,7 +233,7 @@ TEST_F(EditboxTest, MultiLineTextWrapsAndScrollsToTheCaret)
 
 TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
 {
-    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 10, 100, 120, 26));
+    auto& spinner = moxietest::placeAs<Spinner>("MoxieLook/Spinner", 10, 100, 120, 26);
     spinner.setMaximumValue(10);
     spinner.setCurrentValue(5);
     const Rectf up = spinner.getChild(Spinner::IncreaseButtonName)->getUnclippedOuterRect().get();
@@ -276,8 +276,7 @@ TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
 
 TEST_F(EditboxTest, ProgressBarFillsAsFarAsItsProgress)
 {
-    auto& bar =
-        static_cast<MXProgressBar&>(moxietest::place("MoxieLook/ProgressBar", 10, 150, 200, 16));
+    auto& bar = moxietest::placeAs<MXProgressBar>("MoxieLook/ProgressBar", 10, 150, 200, 16);
     for (const auto& [progress, width] :
          {std::pair<float, float>{0.0f, 0.0f}, {0.6f, 120.0f}, {1.0f, 200.0f}})
     {

@@ -127,7 +127,7 @@ TEST_F(KeyboardNavigationTest, TabWalksTheFrameInOrderWrapsAndSkipsWhatCannotTak
 TEST_F(KeyboardNavigationTest, CheckBoxesToggleAndComboBoxesOpenAsTheMouseWould)
 {
     Window& check = moxietest::place("MoxieLook/Checkbox", 10, 50, 140, 24);
-    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 200, 10, 160, 140));
+    auto& combo = moxietest::placeAs<Combobox>("MoxieLook/Combobox", 200, 10, 160, 140);
     combo.addItem(new ListboxTextItem("One"));
     check.activate();
     press(Key::Space);
@@ -207,7 +207,7 @@ TEST_F(KeyboardNavigationTest, TheRingShowsAfterKeysOnlyAndOnlyOnWhatCanTakeTheF
 TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTabs)
 {
     // A list: the selection moves and stays in view, each move firing the list's event.
-    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 10, 10, 150, 100));
+    auto& list = moxietest::placeAs<Listbox>("MoxieLook/Listbox", 10, 10, 150, 100);
     for (int i = 0; i < 30; ++i)
         list.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
     int changes = 0;
@@ -241,7 +241,7 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
     EXPECT_EQ(table.getItemRowIndex(table.getFirstSelectedItem()), 1u);
 
     // A slider steps by its click step and pages by ten.
-    auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 10, 150, 200, 30));
+    auto& slider = moxietest::placeAs<Slider>("MoxieLook/Slider", 10, 150, 200, 30);
     slider.setMaxValue(1.0f);
     slider.setClickStep(0.1f);
     slider.setCurrentValue(0.5f);
@@ -251,14 +251,8 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
     press(Key::PageDown);
     EXPECT_EQ(slider.getCurrentValue(), 0.0f);
     // Tabs: Ctrl+Tab from inside a page, and Left and Right on the tab row itself.
-    auto& tabs =
-        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 10, 200, 300, 150));
-    for (const char* title : {"One", "Two", "Three"})
-    {
-        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", title);
-        page->setText(title);
-        tabs.addTab(page);
-    }
+    auto& tabs = moxietest::placeAs<TabControl>("MoxieLook/TabControl", 10, 200, 300, 150);
+    moxietest::addTabs(tabs, {"One", "Two", "Three"});
     Window* inside =
         &moxietest::child(*tabs.getTabContentsAtIndex(0), "MoxieLook/Button", 10, 10, 80, 24);
     inside->activate();
@@ -291,7 +285,7 @@ TEST_F(KeyboardNavigationTest, KeysInsideWidgetsMoveTheSelectionStepAndSwitchTab
 
 TEST_F(KeyboardNavigationTest, TheTreeWalksItsLinesOpensAndClosesTitles)
 {
-    auto& tree = static_cast<TreeView&>(moxietest::place("MoxieLook/TreeView", 10, 10, 300, 200));
+    auto& tree = moxietest::placeAs<TreeView>("MoxieLook/TreeView", 10, 10, 300, 200);
     TreeView::Node* a = tree.GetRootNode()->Add("A", "Title A", nullptr);
     TreeView::Node* a1 = a->Add("a1", "Leaf a1", nullptr);
     TreeView::Node* b = tree.GetRootNode()->Add("B", "Title B", nullptr);
@@ -326,21 +320,9 @@ TEST_F(KeyboardNavigationTest, TheTreeWalksItsLinesOpensAndClosesTitles)
 
 TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
 {
-    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 26));
-    auto item = [](Window& parent, const char* text)
-    {
-        auto* made = static_cast<MenuItem*>(
-            WindowManager::getSingleton().createWindow("MoxieLook/MenuItem"));
-        made->setText(text);
-        static_cast<ItemListBase&>(parent).addItem(made);
-        return made;
-    };
-    auto popupOf = [](MenuItem& owner)
-    {
-        Window* popup = WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu");
-        owner.addChild(popup);
-        return popup;
-    };
+    auto& bar = moxietest::placeAs<Menubar>("MoxieLook/Menubar", 0, 0, 400, 26);
+    auto item = [](Window& parent, const char* text) { return &moxietest::menuItem(parent, text); };
+    auto popupOf = [](MenuItem& owner) { return &moxietest::popupOf(owner); };
     MenuItem* file = item(bar, "File");
     Window* fileMenu = popupOf(*file);
     MenuItem* open = item(*fileMenu, "Open");
@@ -382,8 +364,7 @@ TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
     EXPECT_FALSE(file->isOpened());
 
     // A pop-up menu of its own (a context menu) is walked from its items; Escape closes it.
-    auto& context =
-        static_cast<PopupMenu&>(moxietest::place("MoxieLook/PopupMenu", 200, 100, 120, 80));
+    auto& context = moxietest::placeAs<PopupMenu>("MoxieLook/PopupMenu", 200, 100, 120, 80);
     MenuItem* copy = item(context, "Copy");
     MenuItem* paste = item(context, "Paste");
     int pastes = 0;
@@ -403,7 +384,7 @@ TEST_F(KeyboardNavigationTest, AMenuBarIsWalkedOpenedAndClickedByKeys)
 
 TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
 {
-    auto& button = static_cast<ButtonEx&>(moxietest::place("MoxieLook/ButtonEx", 10, 10, 100, 30));
+    auto& button = moxietest::placeAs<ButtonEx>("MoxieLook/ButtonEx", 10, 10, 100, 30);
     button.SetDragAuthorized(true);
     int cancelled = 0, clicks = 0;
     button.subscribeEvent(EventDropCancelled, [&cancelled] { ++cancelled; });
@@ -427,8 +408,7 @@ TEST_F(KeyboardNavigationTest, EscapeCancelsADragAsADropOnNothingWould)
     EXPECT_EQ(cancelled, 1);
 
     // A layout dragged by its own area goes back the same way.
-    auto& layout =
-        static_cast<StaticLayout&>(moxietest::place("MoxieLook/StaticLayout", 300, 300, 100, 80));
+    auto& layout = moxietest::placeAs<StaticLayout>("MoxieLook/StaticLayout", 300, 300, 100, 80);
     layout.SetDragAuthorized(true);
     int layoutCancels = 0;
     layout.subscribeEvent(EventDropCancelled, [&layoutCancels] { ++layoutCancels; });
@@ -484,7 +464,7 @@ TEST_F(KeyboardNavigationTest, KeysKeepTheirPromisesWhereWidgetsNestOrDiffer)
     EXPECT_EQ(table.getItemRowIndex(table.getFirstSelectedItem()), row);
 
     // A list of many selections changes its selection once a key, as a click does.
-    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 450, 150, 150, 100));
+    auto& list = moxietest::placeAs<Listbox>("MoxieLook/Listbox", 450, 150, 150, 100);
     list.setMultiselectEnabled(true);
     for (const char* text : {"One", "Two", "Three"})
         list.addItem(new ListboxTextItem(text));
@@ -497,7 +477,7 @@ TEST_F(KeyboardNavigationTest, KeysKeepTheirPromisesWhereWidgetsNestOrDiffer)
     EXPECT_EQ(list.getSelectedCount(), 1u);
 
     // A reversed slider grows to the left: Right lowers it.
-    auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 450, 270, 200, 30));
+    auto& slider = moxietest::placeAs<Slider>("MoxieLook/Slider", 450, 270, 200, 30);
     slider.setProperty("ReversedDirection", "True");
     slider.setCurrentValue(0.5f);
     slider.activate();
@@ -608,8 +588,7 @@ TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
     moxietest::press(Key::Space);
     EXPECT_FALSE(node.IsSelected());
     // A selectable text item toggles as a click toggles it.
-    auto& text =
-        static_cast<TextItemEx&>(moxietest::place("MoxieLook/TextItemEx", 300, 200, 100, 24));
+    auto& text = moxietest::placeAs<TextItemEx>("MoxieLook/TextItemEx", 300, 200, 100, 24);
     text.setText("Pick me");
     int toggles = 0;
     text.subscribeEvent(TextItemEx::EventSelectStateChanged, [&toggles] { ++toggles; });
@@ -621,7 +600,7 @@ TEST_F(KeyboardNavigationTest, SmartNodesSpinnersAndTheOtherBarsTakeTheirKeys)
     focusWidget(node);
 
     // Tab reaches a spinner, the combo box's edit part and the other bars; each steps.
-    auto& spinner = static_cast<Spinner&>(moxietest::place("MoxieLook/Spinner", 10, 60, 100, 30));
+    auto& spinner = moxietest::placeAs<Spinner>("MoxieLook/Spinner", 10, 60, 100, 30);
     Window& edit = moxietest::place("MoxieLook/ComboEditbox", 10, 100, 100, 30);
     auto& across = static_cast<Scrollbar&>(
         moxietest::place("MoxieLook/HorizontalScrollbar", 10, 140, 200, 18));
@@ -658,19 +637,13 @@ TEST_F(KeyboardNavigationTest, AGamepadLeavesEachWidgetByTheArrowsItDoesNotUse)
     // A row of a box one types into, a list and a tab control over a button: the pad's
     // arrows leave each by a way it leaves free, and Tab into a combo box lets one type.
     Window& box = moxietest::place("MoxieLook/Editbox", 10, 10, 120, 28);
-    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 160, 10, 120, 80));
+    auto& list = moxietest::placeAs<Listbox>("MoxieLook/Listbox", 160, 10, 120, 80);
     list.addItem(new ListboxTextItem("One"));
-    auto& tabs =
-        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 310, 10, 200, 80));
-    for (const char* title : {"A", "B", "C"})
-    {
-        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", title);
-        page->setText(title);
-        tabs.addTab(page);
-    }
+    auto& tabs = moxietest::placeAs<TabControl>("MoxieLook/TabControl", 310, 10, 200, 80);
+    moxietest::addTabs(tabs, {"A", "B", "C"});
     tabs.getTabContentsAtIndex(1)->disable(); // the mouse cannot pick it: nor can keys
     Window& below = moxietest::place("MoxieLook/Button", 330, 140, 80, 28);
-    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 140, 150, 120));
+    auto& combo = moxietest::placeAs<Combobox>("MoxieLook/Combobox", 10, 140, 150, 120);
 
     box.activate();
     moxietest::press(Key::ArrowRight); // the caret's

@@ -29,7 +29,7 @@ protected:
 
     static Listbox& list(int items, float height = 120)
     {
-        auto& l = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 10, 10, 200, height));
+        auto& l = moxietest::placeAs<Listbox>("MoxieLook/Listbox", 10, 10, 200, height);
         for (int i = 0; i < items; ++i)
             l.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
         return l;
@@ -148,7 +148,7 @@ TEST_F(ListboxTest, WheelAndBarScrollAndOnlyTheItemsInViewAreDrawn)
 
 TEST_F(ListboxTest, ComboBoxOpensChoosesAndCloses)
 {
-    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 10, 200, 150));
+    auto& combo = moxietest::placeAs<Combobox>("MoxieLook/Combobox", 10, 10, 200, 150);
     for (const char* city : {"Amsterdam", "Berlin", "Copenhagen", "Dublin"})
         combo.addItem(new ListboxTextItem(city));
     Window& below = moxietest::place("MoxieLook/Button", 10, 100, 100, 30);

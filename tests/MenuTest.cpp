@@ -12,21 +12,13 @@ using namespace CEGUI::MoxieLook;
 
 namespace
 {
+// The menus' own item types.
 MenuItem& item(Window& menu, const char* type, const String& text)
 {
-    auto& entry = static_cast<MenuItem&>(*WindowManager::getSingleton().createWindow(type));
-    entry.setText(text);
-    menu.addChild(&entry);
-    return entry;
+    return moxietest::menuItem(menu, text, type);
 }
 
-PopupMenu& popupOf(MenuItem& owner)
-{
-    auto& popup =
-        static_cast<PopupMenu&>(*WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu"));
-    owner.addChild(&popup);
-    return popup;
-}
+using moxietest::popupOf;
 
 void pulse()
 {
@@ -39,7 +31,7 @@ protected:
     void SetUp() override
     {
         moxietest::freshSheet();
-        bar = static_cast<Menubar*>(&moxietest::place("MoxieLook/Menubar", 10, 10, 400, 26));
+        bar = &moxietest::placeAs<Menubar>("MoxieLook/Menubar", 10, 10, 400, 26);
         file = &item(*bar, "MoxieLook/MenubarItem", "File");
         edit = &item(*bar, "MoxieLook/MenubarItem", "Edit");
         view = &item(*bar, "MoxieLook/MenubarItem", "View");
@@ -181,8 +173,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
     EXPECT_FALSE(fileMenu->isPopupMenuOpen());
 
     // A menu of its own, opened by a host, closes the same way.
-    auto& context =
-        static_cast<PopupMenu&>(moxietest::place("MoxieLook/PopupMenu", 300, 200, 100, 60));
+    auto& context = moxietest::placeAs<PopupMenu>("MoxieLook/PopupMenu", 300, 200, 100, 60);
     item(context, "MoxieLook/PopupMenuItem", "Cut");
     context.openPopupMenu();
     ASSERT_TRUE(context.isPopupMenuOpen());
@@ -192,7 +183,7 @@ TEST_F(MenuTest, OpeningMovingHoveringChoosingAndClosing)
 
     // A host that destroys its menu bar once its menu closes, inside the very press that
     // closes it: the bar stops listening without pulling the ground from under CEGUI.
-    auto& once = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 10, 300, 200, 26));
+    auto& once = moxietest::placeAs<Menubar>("MoxieLook/Menubar", 10, 300, 200, 26);
     MenuItem& tools = item(once, "MoxieLook/MenubarItem", "Tools");
     item(popupOf(tools), "MoxieLook/PopupMenuItem", "Options");
     once.subscribeEvent(MenuBase::EventPopupClosed,

@@ -2,6 +2,7 @@
 #include "module/FactoryTable.h"
 #include "module/Module.h"
 #include "support/Gui.h"
+#include "support/Thrown.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/SchemeManager.h>
@@ -46,15 +47,7 @@ std::vector<std::string> moduleTypes()
 
 std::string unknownMessage(const String& type)
 {
-    try
-    {
-        registerFactory(type);
-    }
-    catch (const UnknownObjectException& e)
-    {
-        return e.getMessage().c_str();
-    }
-    return "no UnknownObjectException";
+    return moxietest::thrownMessage<UnknownObjectException>([&] { registerFactory(type); });
 }
 
 void unregisterAll()

@@ -24,7 +24,7 @@ namespace
 Scrollbar& bar(const char* type, float x, float y, float w, float h, float doc, float page,
                float position)
 {
-    auto& scrollbar = static_cast<Scrollbar&>(moxietest::place(type, x, y, w, h));
+    auto& scrollbar = moxietest::placeAs<Scrollbar>(type, x, y, w, h);
     scrollbar.setDocumentSize(doc);
     scrollbar.setPageSize(page);
     scrollbar.setStepSize(5);
@@ -169,8 +169,7 @@ TEST(Scrollbar, DrawsBackgroundThenFrameAndThumbsShowTheirGripperWhenLongEnough)
 TEST(Scrollbar, ThumbStatesUseTheirFramesAndColours)
 {
     moxietest::freshSheet();
-    auto& thumb =
-        static_cast<Thumb&>(moxietest::place("MoxieLook/HorizontalScrollbarThumb", 10, 10, 60, 14));
+    auto& thumb = moxietest::placeAs<Thumb>("MoxieLook/HorizontalScrollbarThumb", 10, 10, 60, 14);
     auto fill = [&] { return drawnBy(thumb).front(); };
     auto frameCorner = [&] { return drawnBy(thumb).at(1).image; };
 
@@ -217,7 +216,7 @@ void expectTicksPlacedWithTheSlider(MXSlider& slider)
 TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
 {
     moxietest::freshSheet();
-    auto& slider = static_cast<MXSlider&>(moxietest::place("MoxieLook/Slider", 10, 10, 200, 30));
+    auto& slider = moxietest::placeAs<MXSlider>("MoxieLook/Slider", 10, 10, 200, 30);
     slider.setMaxValue(1.0f);
     slider.setClickStep(0.05f);
     slider.setCurrentValue(0.5f);
@@ -297,7 +296,7 @@ TEST(Slider, PlacesItsThumbAndSpacesItsTicks)
 TEST(Slider, AReversedSliderGrowsFromTheRightInPlacingClickingDraggingAndTicks)
 {
     moxietest::freshSheet();
-    auto& slider = static_cast<MXSlider&>(moxietest::place("MoxieLook/Slider", 10, 10, 200, 30));
+    auto& slider = moxietest::placeAs<MXSlider>("MoxieLook/Slider", 10, 10, 200, 30);
     slider.setMaxValue(1.0f);
     slider.setClickStep(0.05f);
     slider.setCurrentValue(0.25f);

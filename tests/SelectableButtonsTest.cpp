@@ -42,7 +42,7 @@ protected:
     template <typename T>
     static T& make(const char* type, float x, float y)
     {
-        return static_cast<T&>(moxietest::place(type, x, y, 100, 20));
+        return moxietest::placeAs<T>(type, x, y, 100, 20);
     }
 };
 } // namespace

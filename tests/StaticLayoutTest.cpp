@@ -1,5 +1,7 @@
 #include "looks/MXStatics.h"
 #include "support/Gui.h"
+#include "support/SheetTest.h"
+#include "support/Thrown.h"
 
 #include <CEGUI/WindowManager.h>
 #include <cmath>
@@ -14,7 +16,7 @@ namespace
 // A layout without its frame: the client area is the whole window, as in the rules.
 StaticLayout& layout(float w, float h, const char* rule, unsigned margin = 0)
 {
-    auto& l = static_cast<StaticLayout&>(moxietest::place("MoxieLook/StaticLayout", 10, 10, w, h));
+    auto& l = moxietest::placeAs<StaticLayout>("MoxieLook/StaticLayout", 10, 10, w, h);
     l.setProperty("FrameEnabled", "False");
     l.setProperty("Layout", rule);
     l.SetMargin(margin);
@@ -38,11 +40,7 @@ Rectf at(const Window& c)
     return Rectf(outer.d_min - c.getParent()->getUnclippedOuterRect().get().d_min, outer.getSize());
 }
 
-class StaticLayoutTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { moxietest::freshSheet(); }
-};
+using StaticLayoutTest = moxietest::SheetTest;
 } // namespace
 
 TEST_F(StaticLayoutTest, FlowLeftPlacesThenWrapsAndSkipsHiddenChildren)
@@ -139,16 +137,8 @@ TEST_F(StaticLayoutTest, BorderRegionsAndTheMissingBorderError)
     StaticLayout& l = layout(200, 100, "BorderLayout", 3);
     l.setName("box");
     Window* stray = WindowManager::getSingleton().createWindow("MoxieLook/Button", "orphan");
-    try
-    {
-        l.addChild(stray);
-        FAIL() << "no exception";
-    }
-    catch (const StaticLayout::LayoutException& e)
-    {
-        EXPECT_EQ(e.getMessage(),
-                  "BorderLayout error : trying to add orphan  in box without specified border");
-    }
+    EXPECT_EQ(moxietest::thrownMessage<StaticLayout::LayoutException>([&] { l.addChild(stray); }),
+              "BorderLayout error : trying to add orphan  in box without specified border");
     EXPECT_EQ(l.getChildCount(), 0u);
     WindowManager::getSingleton().destroyWindow(stray);
 

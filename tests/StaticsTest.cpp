@@ -1,6 +1,7 @@
 #include "looks/MXStatics.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/SheetTest.h"
 
 #include <CEGUI/Font.h>
 #include <gtest/gtest.h>
@@ -12,11 +13,7 @@ using moxietest::imageNames;
 
 namespace
 {
-class StaticsTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { moxietest::freshSheet(); }
-};
+using StaticsTest = moxietest::SheetTest;
 } // namespace
 
 TEST_F(StaticsTest, StaticTextFillsInsideItsFrameThenWritesFormattedText)
@@ -46,8 +43,7 @@ TEST_F(StaticsTest, StaticTextFillsInsideItsFrameThenWritesFormattedText)
 
 TEST_F(StaticsTest, StaticImageFormatsItsImageInItsArea)
 {
-    auto& image =
-        static_cast<StaticImage&>(moxietest::place("MoxieLook/StaticImage", 10, 10, 48, 32));
+    auto& image = moxietest::placeAs<StaticImage>("MoxieLook/StaticImage", 10, 10, 48, 32);
     EXPECT_TRUE(drawnBy(image).empty());
     image.setProperty("Image", "MoxieLook/IconStar");
     image.setProperty("ImageColours", "tl:FFFF0000 tr:FFFF0000 bl:FFFF0000 br:FFFF0000");
@@ -75,7 +71,7 @@ TEST_F(StaticsTest, StaticImageFormatsItsImageInItsArea)
 
 TEST_F(StaticsTest, TextItemSizesItselfToItsText)
 {
-    auto& item = static_cast<TextItem&>(moxietest::place("MoxieLook/TextItem", 10, 10, 10, 10));
+    auto& item = moxietest::placeAs<TextItem>("MoxieLook/TextItem", 10, 10, 10, 10);
     item.setProperty("AutoSized", "True");
     item.setText("Legend entry");
     const Font& font = *item.getFont();
@@ -92,8 +88,7 @@ TEST_F(StaticsTest, TextItemSizesItselfToItsText)
 
 TEST_F(StaticsTest, TextItemExShowsIconHoverAndSelectionAndTogglesOnClick)
 {
-    auto& item =
-        static_cast<TextItemEx&>(moxietest::place("MoxieLook/TextItemEx", 10, 10, 150, 20));
+    auto& item = moxietest::placeAs<TextItemEx>("MoxieLook/TextItemEx", 10, 10, 150, 20);
     item.setText("Folder");
     item.setProperty("Icon", "MoxieLook/IconFolder");
     auto quads = drawnBy(item);

@@ -6,6 +6,8 @@
 #include "looks/MXStatics.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/SheetTest.h"
+#include "support/Thrown.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
@@ -45,11 +47,7 @@ using moxietest::spanOf;
 
 namespace
 {
-class StockSkinTypesTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { moxietest::freshSheet(); }
-};
+using StockSkinTypesTest = moxietest::SheetTest;
 
 } // namespace
 
@@ -102,7 +100,7 @@ TEST_F(StockSkinTypesTest, StaticsDrawTheirFrameAndBackgroundAndHoldChildrenInsi
 
 TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildrenBelowIt)
 {
-    auto& box = static_cast<MXGroupBox&>(moxietest::place("MoxieLook/GroupBox", 10, 10, 200, 100));
+    auto& box = moxietest::placeAs<MXGroupBox>("MoxieLook/GroupBox", 10, 10, 200, 100);
     Window* child = &moxietest::child(box, "MoxieLook/Label", 0, 0, 20, 10);
     const float uncaptioned = child->getUnclippedOuterRect().get().top();
     box.setText("Sound");
@@ -177,7 +175,7 @@ TEST_F(StockSkinTypesTest, ImageIconAndSystemButtonsDrawTheirPictures)
 
 TEST_F(StockSkinTypesTest, TheComboEditPartAndTheBroadBarWorkAsTheirOwnTypes)
 {
-    auto& edit = static_cast<Editbox&>(moxietest::place("MoxieLook/ComboEditbox", 10, 10, 180, 26));
+    auto& edit = moxietest::placeAs<Editbox>("MoxieLook/ComboEditbox", 10, 10, 180, 26);
     moxietest::click(100, 20);
     moxietest::type("abc");
     EXPECT_EQ(edit.getText(), "abc");
@@ -217,7 +215,7 @@ TEST_F(StockSkinTypesTest, SegmentedBarsLightTheirBlocksFromTheStartEnd)
     EXPECT_TRUE(meterSegments(Rectf(0, 0, 5, 10), 1, 8, 2, false, false).empty());
 
     // A meter at its peak: green blocks low, orange higher, red at the top.
-    auto& meter = static_cast<MXVUMeter&>(moxietest::place("MoxieLook/VUMeter", 10, 10, 22, 110));
+    auto& meter = moxietest::placeAs<MXVUMeter>("MoxieLook/VUMeter", 10, 10, 22, 110);
     meter.setProgress(1.0f);
     const auto quads = drawnBy(meter);
     std::vector<argb_t> blockColours;
@@ -257,7 +255,7 @@ TEST_F(StockSkinTypesTest, ASegmentedBarFarLongerThanTheDisplayDrawsTheBlocksInV
 TEST_F(StockSkinTypesTest, OneMenuItemTypeServesBarsAndPopupsAlike)
 {
     WindowManager& windows = WindowManager::getSingleton();
-    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 26));
+    auto& bar = moxietest::placeAs<Menubar>("MoxieLook/Menubar", 0, 0, 400, 26);
     auto make = [&](Window& parent, const char* type, const String& text)
     {
         auto* item = static_cast<MenuItem*>(windows.createWindow(type));
@@ -290,8 +288,7 @@ TEST_F(StockSkinTypesTest, OneMenuItemTypeServesBarsAndPopupsAlike)
 
 TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
 {
-    auto& list =
-        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 10, 10, 200, 110));
+    auto& list = moxietest::placeAs<ItemListbox>("MoxieLook/ItemListbox", 10, 10, 200, 110);
     for (int i = 0; i < 12; ++i)
     {
         Window* item = WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem");
@@ -351,7 +348,7 @@ TEST_F(StockSkinTypesTest, AnItemListboxSelectsScrollsAndHoversItsItemWindows)
 
 TEST_F(StockSkinTypesTest, CeguisOwnTreeOpensBranchesAndSelectsItemsOnTheDarkField)
 {
-    auto& tree = static_cast<Tree&>(moxietest::place("MoxieLook/Tree", 10, 10, 240, 140));
+    auto& tree = moxietest::placeAs<Tree>("MoxieLook/Tree", 10, 10, 240, 140);
     auto* fruit = new TreeItem("Fruit");
     tree.addItem(fruit);
     for (const char* name : {"Apples", "Bananas"})
@@ -459,8 +456,7 @@ TEST_F(StockSkinTypesTest, StockPropertiesChangeWhatIsDrawn)
 
 TEST_F(StockSkinTypesTest, StaticTextScrollsLongTextWhenItsBarsAreOn)
 {
-    auto& text =
-        static_cast<MXStaticText&>(moxietest::place("MoxieLook/StaticText", 10, 10, 200, 60));
+    auto& text = moxietest::placeAs<MXStaticText>("MoxieLook/StaticText", 10, 10, 200, 60);
     text.setProperty("HorzFormatting", "WordWrapLeftAligned");
     String lines;
     for (int i = 0; i < 12; ++i)
@@ -563,30 +559,22 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     EXPECT_EQ(argb(find(drawnBy(*bar), "text")->colours.d_top_left), 0xFF102030u);
 
     // Tabs made after "TabButtonType" is set are of that type, on this control only.
-    auto& tabs =
-        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 10, 250, 300, 150));
-    auto& other =
-        static_cast<TabControl&>(moxietest::place("MoxieLook/TabControl", 350, 250, 300, 150));
+    auto& tabs = moxietest::placeAs<TabControl>("MoxieLook/TabControl", 10, 250, 300, 150);
+    auto& other = moxietest::placeAs<TabControl>("MoxieLook/TabControl", 350, 250, 300, 150);
     tabs.setProperty("TabButtonType", "MoxieLook/TabButton");
     EXPECT_EQ(tabs.getProperty("TabButtonType"), "MoxieLook/TabButton");
-    auto addPage = [](TabControl& control, const String& name)
-    {
-        Window* page = WindowManager::getSingleton().createWindow("DefaultWindow", name);
-        page->setText(name);
-        control.addTab(page);
-    };
     // A type nobody registered: the tab cannot be made on this control...
     tabs.setProperty("TabButtonType", "MoxieLook/NoSuchType");
-    EXPECT_THROW(addPage(tabs, "first"), UnknownObjectException);
+    EXPECT_THROW(moxietest::addTabs(tabs, {"first"}), UnknownObjectException);
     // ...while the other control still makes its own.
-    addPage(other, "second");
+    moxietest::addTabs(other, {"second"});
     EXPECT_EQ(other.getTabCount(), 1u);
     EXPECT_EQ(other.getProperty("TabButtonType"), "MoxieLook/TabButton");
     // A type that exists under another name: the tab is made by it (CEGUI names a window
     // made through an alias by the type the alias stands for).
     WindowFactoryManager::getSingleton().addWindowTypeAlias("Test/OwnTab", "MoxieLook/TabButton");
     tabs.setProperty("TabButtonType", "Test/OwnTab");
-    addPage(tabs, "third");
+    moxietest::addTabs(tabs, {"third"});
     ASSERT_EQ(tabs.getTabCount(), 1u);
     const Window* made = tabs.getChild(TabControl::TabButtonPaneName)->getChildAtIdx(0);
     EXPECT_EQ(made->getType(), "MoxieLook/TabButton");
@@ -595,7 +583,7 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
                                                                "MoxieLook/TabButton");
 
     // A disabled control greys every tab's text; the selected tab keeps its raised shape.
-    addPage(other, "fourth");
+    moxietest::addTabs(other, {"fourth"});
     other.disable();
     Window* buttons = other.getChild(TabControl::TabButtonPaneName);
     for (size_t i = 0; i < 2; ++i)
@@ -632,8 +620,7 @@ TEST_F(StockSkinTypesTest, SwitchedOffFramesLeaveAndChildrenFollowTheInnerArea)
 TEST_F(StockSkinTypesTest, ListItemBrushesAndTheGroupCaptionBackdropFollowTheStockProperties)
 {
     // A list item: its own text colours and a tinted, replaced selection brush.
-    auto& list =
-        static_cast<ItemListbox&>(moxietest::place("MoxieLook/ItemListbox", 10, 10, 200, 110));
+    auto& list = moxietest::placeAs<ItemListbox>("MoxieLook/ItemListbox", 10, 10, 200, 110);
     auto* item = static_cast<ItemEntry*>(
         WindowManager::getSingleton().createWindow("MoxieLook/ListboxItem"));
     item->setText("Pear");
@@ -672,7 +659,7 @@ TEST_F(StockSkinTypesTest, ListItemBrushesAndTheGroupCaptionBackdropFollowTheSto
 
 TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
 {
-    auto& bar = static_cast<Menubar&>(moxietest::place("MoxieLook/Menubar", 0, 0, 400, 28));
+    auto& bar = moxietest::placeAs<Menubar>("MoxieLook/Menubar", 0, 0, 400, 28);
     auto* file = static_cast<MenuItem*>(
         WindowManager::getSingleton().createWindow("MoxieLook/MenuItem", "File"));
     file->setText("File");
@@ -734,8 +721,7 @@ TEST_F(StockSkinTypesTest, MenusTakeTheStockTintsAndBorderWidth)
 
 TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsTold)
 {
-    auto& bar =
-        static_cast<MXProgressBar&>(moxietest::place("MoxieLook/ProgressBar", 10, 10, 200, 40));
+    auto& bar = moxietest::placeAs<MXProgressBar>("MoxieLook/ProgressBar", 10, 10, 200, 40);
     bar.setProgress(0.6f);
     auto litSpan = [&bar] { return spanOf(drawnBy(bar), "ProgressBarLit"); };
     bar.setProperty("ReversedProgress", "True");
@@ -760,15 +746,10 @@ TEST_F(StockSkinTypesTest, ScrollbarsTellTheirOrientationAndRefuseTheOther)
     // A layout that states what the type is loads; one that asks for the other is told why.
     across.setProperty("VerticalScrollbar", "False");
     upright.setProperty("VerticalScrollbar", "True");
-    try
-    {
-        across.setProperty("VerticalScrollbar", "True");
-        ADD_FAILURE() << "a horizontal bar turned upright";
-    }
-    catch (const InvalidRequestException& refusal)
-    {
-        EXPECT_NE(refusal.getMessage().find("MoxieLook/HorizontalScrollbar"), String::npos);
-    }
+    EXPECT_NE(moxietest::thrownMessage<InvalidRequestException>(
+                  [&] { across.setProperty("VerticalScrollbar", "True"); })
+                  .find("MoxieLook/HorizontalScrollbar"),
+              std::string::npos);
     // The slider likewise lies across for good.
     Window& slider = moxietest::place("MoxieLook/Slider", 10, 300, 200, 30);
     EXPECT_EQ(slider.getProperty("VerticalSlider"), "false");
@@ -785,7 +766,7 @@ TEST_F(StockSkinTypesTest, ScrollbarsTellTheirOrientationAndRefuseTheOther)
 
 TEST_F(StockSkinTypesTest, AComboBoxPassesItsStockPropertiesToItsParts)
 {
-    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 10, 200, 150));
+    auto& combo = moxietest::placeAs<Combobox>("MoxieLook/Combobox", 10, 10, 200, 150);
     combo.setText("Pears");
     combo.setProperty("NormalEditTextColour", "FF102030");
     combo.setProperty("SelectedEditTextColour", "FFFFFF00");
@@ -826,8 +807,7 @@ TEST_F(StockSkinTypesTest, AComboBoxPassesItsStockPropertiesToItsParts)
 
 TEST_F(StockSkinTypesTest, AStaticPlacesItsTextInsideTheFrameByTheStockFormatting)
 {
-    auto& frame =
-        static_cast<MXStaticFrame&>(moxietest::place("MoxieLook/Static", 10, 10, 200, 60));
+    auto& frame = moxietest::placeAs<MXStaticFrame>("MoxieLook/Static", 10, 10, 200, 60);
     frame.setText("Ready");
     const Rectf inside = frame.textArea();
     auto textSpan = [&frame] { return spanOf(drawnBy(frame), "text"); };
@@ -960,7 +940,7 @@ TEST_F(StockSkinTypesTest, AButtonPlacesItsLabelByTheStockFormatting)
 
 TEST_F(StockSkinTypesTest, AnEditBoxStandsItsTextWhereTheStockFormattingSays)
 {
-    auto& box = static_cast<MXEditbox&>(moxietest::place("MoxieLook/Editbox", 10, 10, 240, 30));
+    auto& box = moxietest::placeAs<MXEditbox>("MoxieLook/Editbox", 10, 10, 240, 30);
     box.setText("42");
     box.setProperty("TextFormatting", "RightAligned");
     auto lastGlyphRight = [&box] { return spanOf(drawnBy(box), "text").right(); };
@@ -1013,7 +993,7 @@ TEST_F(StockSkinTypesTest, AStaticImageTakesCeguisFormattingNames)
 
 TEST_F(StockSkinTypesTest, SegmentedBarsTurnAndReverseByTheirProperties)
 {
-    auto& meter = static_cast<ProgressBar&>(moxietest::place("MoxieLook/VUMeter", 10, 10, 30, 200));
+    auto& meter = moxietest::placeAs<ProgressBar>("MoxieLook/VUMeter", 10, 10, 30, 200);
     meter.setProgress(0.25f);
     auto litSpan = [&meter]
     {

@@ -161,8 +161,7 @@ TEST_F(TaskbarTest, ARightReleaseActsOnTheCurrentSelectionWithoutToggling)
 
 TEST_F(TaskbarTest, MonitoringFailsInTheStatedOrder)
 {
-    auto& extra =
-        static_cast<MXFrameWindow&>(moxietest::place("MoxieLook/FrameWindow", 0, 0, 100, 100));
+    auto& extra = moxietest::placeAs<MXFrameWindow>("MoxieLook/FrameWindow", 0, 0, 100, 100);
     extra.setName("Extra");
     const std::size_t children = bar->getChildCount();
 

@@ -1,6 +1,7 @@
 #include "looks/MXTreeView.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
+#include "support/Thrown.h"
 
 #include <CEGUI/Font.h>
 #include <CEGUI/FontManager.h>
@@ -29,7 +30,7 @@ protected:
     void SetUp() override
     {
         moxietest::freshSheet();
-        tree = static_cast<TreeView*>(&moxietest::place("MoxieLook/TreeView", 10, 10, 300, 200));
+        tree = &moxietest::placeAs<TreeView>("MoxieLook/TreeView", 10, 10, 300, 200);
         tree->subscribeEvent(TreeView::EventLeafItemClicked, [this] { events.push_back("leaf"); });
         tree->subscribeEvent(TreeView::EventTitleItemClicked,
                              [this] { events.push_back("title"); });
@@ -88,25 +89,11 @@ TEST_F(TreeViewTest, ChildCursorDescendantsAndRemoval)
     EXPECT_EQ(a->GetNextChild()->GetName(), "A1");
     EXPECT_EQ(a->GetNextChild()->GetName(), "A2");
     EXPECT_FALSE(a->HasNextChild());
-    try
-    {
-        a->GetNextChild();
-        FAIL();
-    }
-    catch (const TreeView::OutOfBound& e)
-    {
-        EXPECT_STREQ(e.what(), "outOfBounds exception : no more child for the current treeNode");
-    }
+    EXPECT_EQ(moxietest::thrownMessage<TreeView::OutOfBound>([&] { a->GetNextChild(); }),
+              "outOfBounds exception : no more child for the current treeNode");
     a->GetFirstChild();
-    try
-    {
-        a->GetPreviousChild();
-        FAIL();
-    }
-    catch (const TreeView::OutOfBound& e)
-    {
-        EXPECT_STREQ(e.what(), "outOfBounds exception : no child before the current node");
-    }
+    EXPECT_EQ(moxietest::thrownMessage<TreeView::OutOfBound>([&] { a->GetPreviousChild(); }),
+              "outOfBounds exception : no child before the current node");
     EXPECT_THROW(a->GetChild(3), TreeView::OutOfBound);
     EXPECT_EQ(a->GetChild("nobody"), nullptr);
 

@@ -16,22 +16,6 @@ using moxietest::context;
 
 namespace
 {
-Window* childOf(Window& parent, const String& type)
-{
-    try
-    {
-        Window* child = WindowManager::getSingleton().createWindow(type);
-        child->setArea(UVector2(cegui_absdim(2), cegui_absdim(2)),
-                       USize(cegui_absdim(30), cegui_absdim(20)));
-        parent.addChild(child);
-        return child;
-    }
-    catch (const CEGUI::Exception&)
-    {
-        return nullptr; // a type that takes no such child says so
-    }
-}
-
 // One life of a window of `type`; `cycle` picks its container and what the user does.
 void liveOnce(const String& type, int cycle)
 {
@@ -62,10 +46,10 @@ void liveOnce(const String& type, int cycle)
     {
         // a spinner takes numbers only
     }
-    childOf(*window, "DefaultWindow");
-    childOf(*window, "MoxieLook/Button");
+    moxietest::childOf(*window, "DefaultWindow");
+    moxietest::childOf(*window, "MoxieLook/Button");
     if (cycle % 4 == 0)
-        childOf(*window, type);
+        moxietest::childOf(*window, type);
     moxietest::renderFrame();
 
     const Rectf area = window->getUnclippedOuterRect().get();

@@ -84,6 +84,22 @@ CEGUI::Window* makeSample(const CEGUI::String& type, float x, float y, float w, 
     return window;
 }
 
+CEGUI::Window* childOf(CEGUI::Window& parent, const CEGUI::String& type)
+{
+    try
+    {
+        CEGUI::Window* child = CEGUI::WindowManager::getSingleton().createWindow(type);
+        child->setArea(CEGUI::UVector2(cegui_absdim(2), cegui_absdim(2)),
+                       CEGUI::USize(cegui_absdim(30), cegui_absdim(20)));
+        parent.addChild(child);
+        return child;
+    }
+    catch (const CEGUI::Exception&)
+    {
+        return nullptr; // a type that takes no such child says so
+    }
+}
+
 void renderFrame()
 {
     CEGUI::System::getSingleton().renderAllGUIContexts();

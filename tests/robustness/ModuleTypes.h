@@ -28,6 +28,9 @@ bool skippedProperty(const CEGUI::String& name);
 //! type cannot stand alone (it refuses creation outside its owner).
 CEGUI::Window* makeSample(const CEGUI::String& type, float x, float y, float w, float h);
 
+//! A small child of `type` in `parent`, or null where `parent` takes no such child.
+CEGUI::Window* childOf(CEGUI::Window& parent, const CEGUI::String& type);
+
 //! Renders every context once.
 void renderFrame();
 

@@ -1,6 +1,7 @@
 // The wheel turned over any part of a scrolling widget (its thumb, its arrows, its bars)
 // moves it as far as over its body: users aim at the widget, not at a part of it.
 #include "support/Gui.h"
+#include "support/SheetTest.h"
 #include "widgets/TreeView.h"
 #include "widgets/WidgetDropDownListbox.h"
 
@@ -79,11 +80,7 @@ Scrolling scrollbarMiddle(Window* widget, Scrollbar* bar)
             [bar] { return bar->getScrollPosition(); }};
 }
 
-class WheelTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { moxietest::freshSheet(); }
-};
+using WheelTest = moxietest::SheetTest;
 } // namespace
 
 TEST_F(WheelTest, ScrollBarsAndSlidersMoveFromEveryPart)
@@ -98,7 +95,7 @@ TEST_F(WheelTest, ScrollBarsAndSlidersMoveFromEveryPart)
         bar.setStepSize(10);
         expectWheelMovesAlikeEverywhere(scrollbarMiddle(&bar, &bar));
     }
-    auto& slider = static_cast<Slider&>(moxietest::place("MoxieLook/Slider", 20, 400, 300, 24));
+    auto& slider = moxietest::placeAs<Slider>("MoxieLook/Slider", 20, 400, 300, 24);
     slider.setMaxValue(100);
     slider.setClickStep(5);
     expectWheelMovesAlikeEverywhere({&slider, [&slider] { slider.setCurrentValue(50); },
@@ -107,7 +104,7 @@ TEST_F(WheelTest, ScrollBarsAndSlidersMoveFromEveryPart)
 
 TEST_F(WheelTest, ListsEditBoxesPanesAndTreesMoveFromEveryPart)
 {
-    auto& list = static_cast<Listbox&>(moxietest::place("MoxieLook/Listbox", 10, 10, 200, 120));
+    auto& list = moxietest::placeAs<Listbox>("MoxieLook/Listbox", 10, 10, 200, 120);
     for (int i = 0; i < 60; ++i)
         list.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
     expectWheelMovesAlikeEverywhere(scrollbarMiddle(&list, list.getVertScrollbar()));
@@ -141,7 +138,7 @@ TEST_F(WheelTest, ListsEditBoxesPanesAndTreesMoveFromEveryPart)
 
 TEST_F(WheelTest, OpenDropListsMoveFromEveryPart)
 {
-    auto& combo = static_cast<Combobox&>(moxietest::place("MoxieLook/Combobox", 10, 10, 200, 150));
+    auto& combo = moxietest::placeAs<Combobox>("MoxieLook/Combobox", 10, 10, 200, 150);
     for (int i = 0; i < 60; ++i)
         combo.addItem(new ListboxTextItem("Item " + PropertyHelper<int>::toString(i)));
     combo.showDropList();

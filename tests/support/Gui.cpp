@@ -10,6 +10,9 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
+#include <CEGUI/widgets/MenuItem.h>
+#include <CEGUI/widgets/PopupMenu.h>
+#include <CEGUI/widgets/TabControl.h>
 #include <chrono>
 #include <cstdlib>
 
@@ -98,6 +101,34 @@ CEGUI::Window& freshSheet()
     // Park the pointer off every window so that no test starts hovering.
     context().injectMousePosition(799, 599);
     return *s_sheet;
+}
+
+CEGUI::MenuItem& menuItem(CEGUI::Window& menu, const CEGUI::String& text, const CEGUI::String& type)
+{
+    auto& item =
+        static_cast<CEGUI::MenuItem&>(*CEGUI::WindowManager::getSingleton().createWindow(type));
+    item.setText(text);
+    menu.addChild(&item);
+    return item;
+}
+
+CEGUI::PopupMenu& popupOf(CEGUI::MenuItem& owner)
+{
+    auto& popup = static_cast<CEGUI::PopupMenu&>(
+        *CEGUI::WindowManager::getSingleton().createWindow("MoxieLook/PopupMenu"));
+    owner.addChild(&popup);
+    return popup;
+}
+
+void addTabs(CEGUI::TabControl& tabs, std::initializer_list<const char*> titles)
+{
+    for (const char* title : titles)
+    {
+        CEGUI::Window* page =
+            CEGUI::WindowManager::getSingleton().createWindow("DefaultWindow", title);
+        page->setText(title);
+        tabs.addTab(page);
+    }
 }
 
 CEGUI::Window& child(CEGUI::Window& parent, const CEGUI::String& type, float x, float y,

@@ -5,12 +5,16 @@
 #include <CEGUI/InputEvent.h>
 #include <CEGUI/String.h>
 #include <CEGUI/Vector.h>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
 namespace CEGUI
 {
 class GUIContext;
+class MenuItem;
+class PopupMenu;
+class TabControl;
 class Window;
 } // namespace CEGUI
 
@@ -26,9 +30,23 @@ CEGUI::Window& freshSheet();
 
 //! A window of `type` on the current sheet at (x, y) with the given pixel size.
 CEGUI::Window& place(const CEGUI::String& type, float x, float y, float width, float height);
+//! The same, as the class the type makes.
+template <typename T>
+T& placeAs(const CEGUI::String& type, float x, float y, float width, float height)
+{
+    return static_cast<T&>(place(type, x, y, width, height));
+}
 //! A window of `type` made a child of `parent` at (x, y) with the given pixel size.
 CEGUI::Window& child(CEGUI::Window& parent, const CEGUI::String& type, float x, float y,
                      float width, float height);
+
+//! A menu item saying `text`, added to `menu` (a bar or a popup).
+CEGUI::MenuItem& menuItem(CEGUI::Window& menu, const CEGUI::String& text,
+                          const CEGUI::String& type = "MoxieLook/MenuItem");
+//! A "MoxieLook/PopupMenu" that `owner` opens.
+CEGUI::PopupMenu& popupOf(CEGUI::MenuItem& owner);
+//! A page for each title, named and captioned by it.
+void addTabs(CEGUI::TabControl& tabs, std::initializer_list<const char*> titles);
 
 //! Moves the pointer to (x, y) and, optionally, presses or releases the left button.
 void pointerTo(float x, float y);
