@@ -24,17 +24,16 @@ struct SharedVertices
     std::vector<Vertex> vertices = std::vector<Vertex>(96);
     std::size_t used = 0;
     QuadBatch* open = nullptr;
-};
+} s_shared; // at namespace scope: asked for on every quad, so no first-use check
 
 SharedVertices& shared()
 {
-    static SharedVertices all;
-    return all;
+    return s_shared;
 }
 
 Vertex* grow(std::size_t count)
 {
-    SharedVertices& all = shared();
+    SharedVertices& all = s_shared;
     if (all.vertices.size() < all.used + count)
         all.vertices.resize(2 * (all.used + count));
     Vertex* at = all.vertices.data() + all.used;
@@ -127,8 +126,9 @@ bool QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf*
     put(v[1], final.left(), final.bottom(), tex.left(), tex.bottom(), colours.d_bottom_left);
     put(v[2], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
     put(v[3], final.right(), final.top(), tex.right(), tex.top(), colours.d_top_right);
-    put(v[4], final.left(), final.top(), tex.left(), tex.top(), colours.d_top_left);
-    put(v[5], final.right(), final.bottom(), tex.right(), tex.bottom(), colours.d_bottom_right);
+    // The second triangle's two shared corners, copied whole.
+    v[4] = v[0];
+    v[5] = v[2];
     return true;
 }
 
