@@ -213,7 +213,9 @@ const bool registered = []
 {
     for (const char* skin : {"MoxieLook", "TaharezLook"})
         benchmark::RegisterBenchmark((std::string("scene/") + skin).c_str(), sceneRedraw, skin)
-            ->Unit(benchmark::kMicrosecond);
+            ->Unit(benchmark::kMicrosecond)
+            ->Repetitions(5)
+            ->ReportAggregatesOnly(true);
     for (const Kind& kind : kinds())
         for (const char* skin : {"MoxieLook", "TaharezLook"})
         {
