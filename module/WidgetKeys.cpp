@@ -91,6 +91,20 @@ struct TableAccess : MultiColumnList
     }
 };
 
+// The keys' new row selected alone, as a click selects it, and brought into view.
+template <typename Access, typename List, typename Target>
+bool selectAlone(List& list, Target to, bool moved)
+{
+    if (moved)
+    {
+        if (list.isMultiselectEnabled())
+            Access::clear(list);
+        list.setItemSelectState(to, true);
+    }
+    list.ensureItemIsVisible(to);
+    return true;
+}
+
 bool listKey(Listbox& list, Key::Scan key)
 {
     const ListboxItem* selected = list.getFirstSelectedItem();
@@ -98,14 +112,7 @@ bool listKey(Listbox& list, Key::Scan key)
     std::size_t row = 0;
     if (!rowFor(key, list.getItemCount(), pageOf(list), current, row))
         return false;
-    if (static_cast<long>(row) != current)
-    {
-        if (list.isMultiselectEnabled())
-            ListAccess::clear(list);
-        list.setItemSelectState(row, true);
-    }
-    list.ensureItemIsVisible(row);
-    return true;
+    return selectAlone<ListAccess>(list, row, static_cast<long>(row) != current);
 }
 
 bool tableKey(MultiColumnList& table, Key::Scan key)
@@ -394,14 +401,7 @@ bool ceguiTreeKey(Tree& tree, Key::Scan key)
             return false;
         to = shown[row];
     }
-    if (to != selected)
-    {
-        if (tree.isMultiselectEnabled())
-            TreeAccess::clear(tree);
-        tree.setItemSelectState(to, true);
-    }
-    tree.ensureItemIsVisible(to);
-    return true;
+    return selectAlone<TreeAccess>(tree, to, to != selected);
 }
 
 bool itemListKey(ItemListbox& list, Key::Scan key)
