@@ -1,6 +1,5 @@
 #include "looks/MXEditbox.h"
 #include "looks/MXMultiLineEditBox.h"
-#include "looks/MXProgressBar.h"
 #include "looks/MXSpinner.h"
 #include "support/DrawnQuads.h"
 #include "support/Gui.h"
@@ -271,22 +270,6 @@ TEST_F(EditboxTest, SpinnerStepsByItsButtonsAndTakesTypedValues)
         moxietest::type(t.invalid);
         EXPECT_EQ(edit.getText(), before);
         EXPECT_EQ(spinner.getCurrentValue(), t.value);
-    }
-}
-
-TEST_F(EditboxTest, ProgressBarFillsAsFarAsItsProgress)
-{
-    auto& bar = moxietest::placeAs<MXProgressBar>("MoxieLook/ProgressBar", 10, 150, 200, 16);
-    for (const auto& [progress, width] :
-         {std::pair<float, float>{0.0f, 0.0f}, {0.6f, 120.0f}, {1.0f, 200.0f}})
-    {
-        bar.setProgress(progress);
-        EXPECT_EQ(bar.litWidth(), width);
-        float lit = 0;
-        for (const moxietest::DrawnQuad& q : drawnBy(bar))
-            if (q.image.rfind("ProgressBarLit", 0) == 0)
-                lit = std::max(lit, q.rect.right());
-        EXPECT_EQ(lit, width) << progress;
     }
 }
 

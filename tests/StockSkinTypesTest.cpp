@@ -129,6 +129,13 @@ TEST_F(StockSkinTypesTest, AGroupBoxBreaksItsTopEdgeForTheCaptionAndKeepsChildre
     }
     EXPECT_TRUE(textDrawn);
     EXPECT_TRUE(find(quads, "StaticFrameBottom"));
+
+    // Without its frame it still shows its caption, and draws no frame piece.
+    box.setProperty("FrameEnabled", "False");
+    const auto bare = drawnBy(box);
+    EXPECT_TRUE(find(bare, "text"));
+    EXPECT_FALSE(find(bare, "StaticFrameTop"));
+    EXPECT_FALSE(find(bare, "StaticFrameTopLeft"));
 }
 
 TEST_F(StockSkinTypesTest, ImageIconAndSystemButtonsDrawTheirPictures)
@@ -595,28 +602,6 @@ TEST_F(StockSkinTypesTest, FrameWindowAndTabControlTakeTheirStockProperties)
     }
 }
 
-TEST_F(StockSkinTypesTest, SwitchedOffFramesLeaveAndChildrenFollowTheInnerArea)
-{
-    // A group box without its frame still shows its caption, and draws no frame piece.
-    Window& box = moxietest::place("MoxieLook/GroupBox", 10, 100, 200, 100);
-    box.setText("Sound");
-    box.setProperty("FrameEnabled", "False");
-    const auto quads = drawnBy(box);
-    EXPECT_TRUE(find(quads, "text"));
-    EXPECT_FALSE(find(quads, "StaticFrameTop"));
-    EXPECT_FALSE(find(quads, "StaticFrameTopLeft"));
-
-    // A child sized against a static's inside grows when the frame goes.
-    Window& frame = moxietest::place("MoxieLook/Static", 250, 10, 120, 60);
-    Window* child = WindowManager::getSingleton().createWindow("DefaultWindow");
-    frame.addChild(child);
-    child->setArea(URect(cegui_reldim(0), cegui_reldim(0), cegui_reldim(1), cegui_reldim(1)));
-    const float framed = child->getPixelSize().d_width;
-    frame.setProperty("FrameEnabled", "False");
-    EXPECT_EQ(child->getPixelSize().d_width, 120);
-    EXPECT_LT(framed, 120);
-}
-
 TEST_F(StockSkinTypesTest, ListItemBrushesAndTheGroupCaptionBackdropFollowTheStockProperties)
 {
     // A list item: its own text colours and a tinted, replaced selection brush.
@@ -724,6 +709,13 @@ TEST_F(StockSkinTypesTest, AProgressBarFillsFromTheEndItIsTold)
     auto& bar = moxietest::placeAs<MXProgressBar>("MoxieLook/ProgressBar", 10, 10, 200, 40);
     bar.setProgress(0.6f);
     auto litSpan = [&bar] { return spanOf(drawnBy(bar), "ProgressBarLit"); };
+    EXPECT_EQ(litSpan(), Rectf(0, 0, 120, 40));
+    bar.setProgress(1.0f);
+    EXPECT_EQ(litSpan(), Rectf(0, 0, 200, 40));
+    bar.setProgress(0.0f);
+    EXPECT_EQ(bar.litWidth(), 0);
+    EXPECT_FALSE(find(drawnBy(bar), "ProgressBarLitMiddle"));
+    bar.setProgress(0.6f);
     bar.setProperty("ReversedProgress", "True");
     EXPECT_EQ(litSpan(), Rectf(80, 0, 200, 40));
     bar.setProperty("VerticalProgress", "True");
