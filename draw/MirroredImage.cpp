@@ -1,5 +1,7 @@
 #include "draw/MirroredImage.h"
 
+#include "draw/ImageParts.h"
+
 #include <CEGUI/BasicImage.h>
 #include <CEGUI/GeometryBuffer.h>
 #include <CEGUI/Texture.h>
@@ -12,14 +14,6 @@ namespace MoxieLook
 {
 namespace
 {
-// BasicImage keeps its texture and area protected; members reached through a derived
-// class's pointers to them, applied to the image itself (no cast of the object).
-struct BasicImageParts : BasicImage
-{
-    static constexpr Texture* BasicImage::*texture = &BasicImageParts::d_texture;
-    static constexpr Rectf BasicImage::*area = &BasicImageParts::d_area;
-};
-
 Rectf normalised(const Rectf& r)
 {
     return Rectf(std::min(r.left(), r.right()), std::min(r.top(), r.bottom()),
@@ -43,8 +37,8 @@ void renderMirrored(GeometryBuffer& buffer, const Image& image, const Rectf& des
     if (shown.getWidth() <= 0 || shown.getHeight() <= 0)
         return;
 
-    Texture* texture = basic->*BasicImageParts::texture;
-    const Rectf& area = basic->*BasicImageParts::area;
+    Texture* texture = basic->*ImageParts::TextureOf;
+    const Rectf& area = basic->*ImageParts::Area;
     const Vector2f scaling = texture->getTexelScaling();
     // Where a point of the box takes its texel from, mirrored on the flipped axes.
     auto texel = [&](float x, float y)

@@ -26,11 +26,6 @@ struct SharedVertices
     QuadBatch* open = nullptr;
 } s_shared; // at namespace scope: asked for on every quad, so no first-use check
 
-SharedVertices& shared()
-{
-    return s_shared;
-}
-
 Vertex* grow(std::size_t count)
 {
     SharedVertices& all = s_shared;
@@ -67,18 +62,18 @@ const BasicImage* plainBasicImage(const Image* image)
                                                          : nullptr;
 }
 
-QuadBatch::QuadBatch(GeometryBuffer& buffer) : d_buffer(buffer), d_outer(shared().open)
+QuadBatch::QuadBatch(GeometryBuffer& buffer) : d_buffer(buffer), d_outer(s_shared.open)
 {
     if (d_outer)
         d_outer->flush();
-    d_from = shared().used;
-    shared().open = this;
+    d_from = s_shared.used;
+    s_shared.open = this;
 }
 
 QuadBatch::~QuadBatch()
 {
     flush();
-    shared().open = d_outer;
+    s_shared.open = d_outer;
 }
 
 void QuadBatch::add(const Image& image, const Rectf& dest, const Rectf* clip,
@@ -96,7 +91,7 @@ void QuadBatch::add(const Image& image, const Rectf& dest, const Rectf* clip,
 bool QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf* clip,
                     const ColourRect& colours)
 {
-    assert(shared().open == this);
+    assert(s_shared.open == this);
     // BasicImage::render, step for step, so that every vertex comes out the same.
     Rectf dest(destArea);
     dest.offset(image.*ImageParts::ScaledOffset);
@@ -135,7 +130,7 @@ bool QuadBatch::add(const BasicImage& image, const Rectf& destArea, const Rectf*
 void QuadBatch::addRow(const Image& image, const Vector2f& first, float spacing, int from, int to,
                        const ColourRect& colours)
 {
-    assert(shared().open == this);
+    assert(s_shared.open == this);
     if (from >= to)
         return;
     const BasicImage* basic = plainBasicImage(&image);
@@ -153,10 +148,10 @@ void QuadBatch::addRow(const Image& image, const Vector2f& first, float spacing,
     }
     if (!add(*basic, placeOf(from), nullptr, colours))
         return; // nothing to see of it
-    const std::size_t at = shared().used - 6;
+    const std::size_t at = s_shared.used - 6;
     Vertex* copies = grow(6 * static_cast<std::size_t>(to - from - 1));
     // Read after growing: the shared vertices may have moved.
-    const Vertex* quad = shared().vertices.data() + at;
+    const Vertex* quad = s_shared.vertices.data() + at;
     for (int i = 1; i < to - from; ++i)
     {
         const float shift = static_cast<float>(i) * spacing;
@@ -170,7 +165,7 @@ void QuadBatch::addRow(const Image& image, const Vector2f& first, float spacing,
 
 void QuadBatch::flush()
 {
-    SharedVertices& all = shared();
+    SharedVertices& all = s_shared;
     if (all.used == d_from)
         return;
     d_buffer.setActiveTexture(d_texture);

@@ -4,6 +4,7 @@
 #include "draw/Imagery.h"
 #include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Font.h>
@@ -62,32 +63,22 @@ void ListDrawing::layOutParts(Listbox& list) const
 {
     Window* vert = partOrNull(list, Listbox::VertScrollbarName);
     Window* horz = partOrNull(list, Listbox::HorzScrollbarName);
-    if (!vert || !horz)
-        return;
-    const Rectf inner = d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize()));
-    const float t = ScrollbarThickness;
-    vert->setArea(
-        UVector2(cegui_absdim(inner.right() - t), cegui_absdim(inner.top())),
-        USize(cegui_absdim(t),
-              cegui_absdim(std::max(0.0f, inner.getHeight() - (horz->isVisible() ? t : 0)))));
-    horz->setArea(
-        UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.bottom() - t)),
-        USize(cegui_absdim(std::max(0.0f, inner.getWidth() - (vert->isVisible() ? t : 0))),
-              cegui_absdim(t)));
+    if (vert && horz)
+        layOutInnerBars(vert, horz, d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize())),
+                        ScrollbarThickness);
 }
 
 Rectf ListDrawing::renderArea(const Listbox& list) const
 {
-    Rectf area = d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize()));
-    const Window* vert = partOrNull(list, Listbox::VertScrollbarName);
-    const Window* horz = partOrNull(list, Listbox::HorzScrollbarName);
-    if (vert && vert->isVisible())
-        area.d_max.d_x -= ScrollbarThickness;
-    if (horz && horz->isVisible())
-        area.d_max.d_y -= ScrollbarThickness;
-    area.d_max.d_x = std::max(area.d_min.d_x, area.d_max.d_x);
-    area.d_max.d_y = std::max(area.d_min.d_y, area.d_max.d_y);
-    return area;
+    return renderArea(list, partOrNull<Scrollbar>(list, Listbox::VertScrollbarName),
+                      partOrNull<Scrollbar>(list, Listbox::HorzScrollbarName));
+}
+
+Rectf ListDrawing::renderArea(const Listbox& list, const Scrollbar* vert,
+                              const Scrollbar* horz) const
+{
+    return areaBesideInnerBars(d_frame.innerRect(Rectf(Vector2f(0, 0), list.getPixelSize())), vert,
+                               horz, ScrollbarThickness);
 }
 
 namespace
@@ -205,9 +196,12 @@ void ListDrawing::draw(Listbox& list)
 
     if (!d_measured)
         measure(list);
-    const Rectf area = renderArea(list);
-    const float left = area.left() - scrollOf(list, Listbox::HorzScrollbarName);
-    const float top = area.top() - scrollOf(list, Listbox::VertScrollbarName);
+    // The bars found once: for the area they leave and for how far they scroll it.
+    const Scrollbar* vert = partOrNull<Scrollbar>(list, Listbox::VertScrollbarName);
+    const Scrollbar* horz = partOrNull<Scrollbar>(list, Listbox::HorzScrollbarName);
+    const Rectf area = renderArea(list, vert, horz);
+    const float left = area.left() - (horz ? horz->getScrollPosition() : 0.0f);
+    const float top = area.top() - (vert ? vert->getScrollPosition() : 0.0f);
     const float width = std::max(area.getWidth(), d_widest);
     // A disabled list shows its items faded.
     const float itemAlpha = list.isEffectiveDisabled() ? alpha * 0.5f : alpha;

@@ -13,6 +13,7 @@
 namespace CEGUI
 {
 class Listbox;
+class Scrollbar;
 class ListboxItem;
 
 namespace MoxieLook
@@ -36,6 +37,8 @@ public:
     void layOutParts(Listbox& list) const;
     //! Where the items go, window-local: inside the frame, clear of the visible bars.
     Rectf renderArea(const Listbox& list) const;
+    //! The same with the bars already found (null while not made).
+    Rectf renderArea(const Listbox& list, const Scrollbar* vert, const Scrollbar* horz) const;
     void draw(Listbox& list);
     //! The item drawn under the screen point, or null.
     ListboxItem* itemAt(const Listbox& list, const Vector2f& screenPoint);

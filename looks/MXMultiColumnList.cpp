@@ -3,6 +3,7 @@
 #include "draw/Imagery.h"
 #include "draw/QuadBatch.h"
 #include "looks/AutoParts.h"
+#include "looks/InnerBars.h"
 #include "looks/ListDrawing.h"
 #include "looks/MXListHeader.h"
 
@@ -139,42 +140,33 @@ void MultiColumnListLookOf<Base>::performChildWindowLayout(bool nonclientSizedHi
         return; // still being built
     const Rectf inner = frameInner();
     ListHeader* header = parts.header;
-    Scrollbar* vert = parts.vert;
-    Scrollbar* horz = parts.horz;
-    const float t = ScrollbarThickness;
-    const float right = vert->isVisible() ? t : 0.0f;
-    const float bottom = horz->isVisible() ? t : 0.0f;
+    const float right = parts.vert->isVisible() ? ScrollbarThickness : 0.0f;
     const auto* look = dynamic_cast<const MXListHeader*>(header);
     const float headerHeight = look ? look->naturalHeight() : header->getPixelSize().d_height;
-    auto place = [](Window* part, float x, float y, float w, float h)
-    {
-        part->setArea(UVector2(cegui_absdim(x), cegui_absdim(y)),
-                      USize(cegui_absdim(std::max(w, 0.0f)), cegui_absdim(std::max(h, 0.0f))));
-    };
-    place(header, inner.left(), inner.top(), inner.getWidth() - right, headerHeight);
-    place(vert, inner.right() - t, inner.top(), t, inner.getHeight() - bottom);
-    place(horz, inner.left(), inner.bottom() - t, inner.getWidth() - right, t);
+    header->setArea(
+        UVector2(cegui_absdim(inner.left()), cegui_absdim(inner.top())),
+        USize(cegui_absdim(std::max(inner.getWidth() - right, 0.0f)), cegui_absdim(headerHeight)));
+    layOutInnerBars(parts.vert, parts.horz, inner, ScrollbarThickness);
 }
 
 template <typename Base>
 Rectf MultiColumnListLookOf<Base>::listRenderArea() const
+{
+    return listRenderArea(this->parts());
+}
+
+template <typename Base>
+Rectf MultiColumnListLookOf<Base>::listRenderArea(const Parts& parts) const
 {
     Rectf area = frameInner();
     // CEGUI's list and bars chase each other's positions until they compare equal: a size
     // that is no number would never let them.
     if (!isFiniteRect(area))
         return Rectf(0, 0, 0, 0);
-    const Parts parts = this->parts();
     if (!parts.header)
         return area;
     area.d_min.d_y += parts.header->getPixelSize().d_height;
-    if (parts.vert->isVisible())
-        area.d_max.d_x -= ScrollbarThickness;
-    if (parts.horz->isVisible())
-        area.d_max.d_y -= ScrollbarThickness;
-    area.d_max.d_x = std::max(area.d_max.d_x, area.d_min.d_x);
-    area.d_max.d_y = std::max(area.d_max.d_y, area.d_min.d_y);
-    return area;
+    return areaBesideInnerBars(area, parts.vert, parts.horz, ScrollbarThickness);
 }
 
 template <typename Base>
@@ -193,7 +185,7 @@ void MultiColumnListLookOf<Base>::drawList()
     const Parts parts = this->parts();
     if (!parts.header)
         return;
-    const Rectf area = listRenderArea();
+    const Rectf area = listRenderArea(parts);
     const ListHeader* header = parts.header;
     const uint columns = header->getColumnCount();
     const float dx = parts.horz->getScrollPosition();

@@ -87,6 +87,7 @@ protected:
         Scrollbar* horz = nullptr;
     };
     Parts parts() const;
+    Rectf listRenderArea(const Parts& parts) const;
 
     NinePieceFrame d_frame;
     const Image* d_background;

@@ -28,7 +28,8 @@ void DropDownImages::frameImages(NinePieceFrame& frame)
 // --- the list ---------------------------------------------------------------------------
 
 MXWidgetDropDownList::MXWidgetDropDownList(const String& type, const String& name)
-    : WidgetDropDownList(type, name)
+    : WidgetDropDownList(type, name), d_selectionBrush(&lookImage(SelectionBrushImageName)),
+      d_hoverBrush(&lookImage(HoverBrushImageName))
 {
     setMouseCursor(&lookImage(MouseCursorImageName));
 }
@@ -72,8 +73,7 @@ void MXWidgetDropDownList::DrawItem(const Window& window, GeometryBuffer& buffer
     const float alpha = window.getEffectiveAlpha();
     const ColourRect white = withAlpha(ColourRect(Colour(0x00FFFFFF)), alpha);
     if (selected || hovered)
-        drawImage(buffer, lookImage(selected ? SelectionBrushImageName : HoverBrushImageName), row,
-                  &clip, white);
+        drawImage(buffer, *(selected ? d_selectionBrush : d_hoverBrush), row, &clip, white);
 
     float x = row.left() + ImagePadding;
     if (item.image)

@@ -56,6 +56,10 @@ protected:
     void populateGeometryBuffer() override;
     void performChildWindowLayout(bool nonclientSizedHint = false,
                                   bool clientSizedHint = false) override;
+
+private:
+    const Image* d_selectionBrush; //!< fetched once: drawn for the rows in view
+    const Image* d_hoverBrush;
 };
 
 class MXWidgetDropDownListbox : public WidgetDropDownListbox, public DropDownImages

@@ -1,6 +1,7 @@
 #include "module/KeyboardNavigation.h"
 
 #include "draw/Imagery.h"
+#include "draw/QuadBatch.h"
 #include "module/WidgetKeys.h"
 #include "widgets/ButtonEx.h"
 #include "widgets/RadioButtonEx.h"
@@ -167,12 +168,12 @@ void drawRing(Window& window)
         return;
     const ColourRect colours(withAlpha(Colour(0x00FFFFFF), window.getEffectiveAlpha()));
     const Image& bar = lookImage("FocusRing");
-    GeometryBuffer& buffer = window.getGeometryBuffer();
+    QuadBatch batch(window.getGeometryBuffer());
     const float w = size.d_width, h = size.d_height;
     for (const Rectf& side : {Rectf(0, 0, w, RingWidth), Rectf(0, h - RingWidth, w, h),
                               Rectf(0, RingWidth, RingWidth, h - RingWidth),
                               Rectf(w - RingWidth, RingWidth, w, h - RingWidth)})
-        bar.render(buffer, side, nullptr, colours);
+        batch.add(bar, side, nullptr, colours);
 }
 
 bool connected(const Event::Connection& connection)

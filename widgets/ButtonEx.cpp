@@ -307,7 +307,7 @@ bool ButtonEx::MouseUp(const EventArgs& args)
     if (!d_dragging)
     {
         if (mouse.button == LeftButton)
-            MXSoundification::GetInstance().PlaySound(this, d_clickSound);
+            PlayClickSound();
         return false;
     }
     endDrag(true);

@@ -198,7 +198,7 @@ void Diagram::setYLabel(const String& text, float y)
     if (std::isnan(y))
         throw InvalidRequestException("A diagram's y labels must stand at numbers.");
     const Font* font = getFont();
-    d_model.yLabelWidth = std::max(d_model.yLabelWidth, font ? font->getTextExtent(text) : 0.0f);
+    d_model.yLabelWidth = std::max(d_model.yLabelWidth, font ? glyphExtent(*font, text) : 0.0f);
     d_model.yLabels[y] = text;
     dataChanged();
 }
@@ -562,14 +562,14 @@ void Diagram::drawLabels(const Rectf& graph)
         // Centred in a box of twice the legend's width.
         const float centre = GetPixelFromValue(Vector2f(x, 0)).d_x;
         drawGlyphs(buffer, *font, text,
-                   Vector2f(centre - font->getTextExtent(text) * 0.5f, labelTop), &xBand, white);
+                   Vector2f(centre - glyphExtent(*font, text) * 0.5f, labelTop), &xBand, white);
     }
     const Rectf yColumn(graph.left() - d_model.yLabelWidth, labelTop, graph.left(), graph.bottom());
     for (const auto& [y, text] : d_model.yLabels)
     {
         // Right-aligned in a box 20 pixels high centred on the value.
         const float top = GetPixelFromValue(Vector2f(0, y)).d_y - 10.0f;
-        drawGlyphs(buffer, *font, text, Vector2f(graph.left() - font->getTextExtent(text), top),
+        drawGlyphs(buffer, *font, text, Vector2f(graph.left() - glyphExtent(*font, text), top),
                    &yColumn, white);
     }
 }

@@ -1,5 +1,6 @@
 // The tree view's node model: children, cursor, open, visible, selected and hovered flags,
 // hit tests over the nodes' own rectangles. Changes are reported to the owning tree.
+#include "draw/GlyphRun.h"
 #include "widgets/TreeView.h"
 #include "widgets/TreeViewHits.h"
 #include "widgets/TreeViewLineIndex.h"
@@ -366,7 +367,7 @@ float TreeView::Node::textWidth(const Font& font, std::uint32_t epoch)
 {
     if (!d_textWidthValid || d_textWidthFont != &font || d_textWidthEpoch != epoch)
     {
-        d_textWidth = font.getTextExtent(d_text);
+        d_textWidth = glyphExtent(font, d_text);
         d_textWidthFont = &font;
         d_textWidthEpoch = epoch;
         d_textWidthValid = true;
