@@ -82,6 +82,9 @@ std::size_t pageOf(const Listbox& list)
 struct ListAccess : Listbox
 {
     static void clear(Listbox& list) { (list.*(&ListAccess::clearAllSelections_impl))(); }
+    static bool multi(const Listbox& list) { return list.isMultiselectEnabled(); }
+    static void select(Listbox& list, std::size_t row) { list.setItemSelectState(row, true); }
+    static void show(Listbox& list, std::size_t row) { list.ensureItemIsVisible(row); }
 };
 struct TableAccess : MultiColumnList
 {
@@ -91,17 +94,18 @@ struct TableAccess : MultiColumnList
     }
 };
 
-// The keys' new row selected alone, as a click selects it, and brought into view.
+// The keys' new row selected alone, as a click selects it, and brought into view; each kind
+// of list says through its Access how it does each step.
 template <typename Access, typename List, typename Target>
 bool selectAlone(List& list, Target to, bool moved)
 {
     if (moved)
     {
-        if (list.isMultiselectEnabled())
+        if (Access::multi(list))
             Access::clear(list);
-        list.setItemSelectState(to, true);
+        Access::select(list, to);
     }
-    list.ensureItemIsVisible(to);
+    Access::show(list, to);
     return true;
 }
 
@@ -344,6 +348,9 @@ bool menuKey(MenuBase& top, Key::Scan key)
 struct TreeAccess : Tree
 {
     static void clear(Tree& tree) { (tree.*(&TreeAccess::clearAllSelections_impl))(); }
+    static bool multi(const Tree& tree) { return tree.isMultiselectEnabled(); }
+    static void select(Tree& tree, TreeItem* item) { tree.setItemSelectState(item, true); }
+    static void show(Tree& tree, TreeItem* item) { tree.ensureItemIsVisible(item); }
     static std::vector<TreeItem*>& items(Tree& tree) { return tree.*(&TreeAccess::d_listItems); }
     static void branchToggled(Tree& tree, TreeItem& item)
     {
@@ -404,6 +411,15 @@ bool ceguiTreeKey(Tree& tree, Key::Scan key)
     return selectAlone<TreeAccess>(tree, to, to != selected);
 }
 
+struct ItemListAccess
+{
+    static void clear(ItemListbox& list) { list.clearAllSelections(); }
+    static bool multi(const ItemListbox& list) { return list.isMultiSelectEnabled(); }
+    // As a click: one selection event.
+    static void select(ItemListbox& list, ItemEntry* item) { list.notifyItemClicked(item); }
+    static void show(ItemListbox& list, ItemEntry* item) { list.ensureItemIsVisibleVert(*item); }
+};
+
 bool itemListKey(ItemListbox& list, Key::Scan key)
 {
     const ItemEntry* selected = list.getFirstSelectedItem();
@@ -411,15 +427,8 @@ bool itemListKey(ItemListbox& list, Key::Scan key)
     std::size_t row = 0;
     if (!rowFor(key, list.getItemCount(), PageLines, current, row))
         return false;
-    ItemEntry* to = list.getItemFromIndex(row);
-    if (static_cast<long>(row) != current)
-    {
-        if (list.isMultiSelectEnabled())
-            list.clearAllSelections();
-        list.notifyItemClicked(to); // as a click: one selection event
-    }
-    list.ensureItemIsVisibleVert(*to);
-    return true;
+    return selectAlone<ItemListAccess>(list, list.getItemFromIndex(row),
+                                       static_cast<long>(row) != current);
 }
 
 bool chooseKey(WidgetDropDownListbox& box, Key::Scan key)
