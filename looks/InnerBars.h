@@ -1,7 +1,7 @@
 // Two scroll bars inside a look's frame, the vertical one down the right edge and the
 // horizontal one along the bottom, meeting at the corner: where they go and what room they
-// leave, for the looks that lay out and draw around them (multi-line edit box, item list,
-// CEGUI's tree, static text).
+// leave, for the looks that lay out and draw around them (lists, multi-column lists,
+// multi-line edit box, item list, CEGUI's tree, static text).
 #pragma once
 
 #include <CEGUI/Rect.h>
